@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ioutils/Export.h"
+
+namespace ioutils {
+
+// Number reading and writing that never depends on the process locale:
+// a point is always the decimal separator.
+
+// Optional leading blanks and sign, then the longest decimal number prefix
+// (digits, point, exponent), or "inf"/"infinity"/"nan"; 0.0 when there is none.
+IOUTILS_API double parseDouble(std::wstring_view text);
+// Optional leading blanks and sign, then the longest digit prefix; 0 when
+// there is none, INT_MAX or INT_MIN when the value does not fit.
+IOUTILS_API int parseInt(std::wstring_view text);
+// Fixed notation with four decimals, the point always shown (2.5 -> 2.5000).
+IOUTILS_API std::wstring formatFixed4(double value);
+// The shortest text that reads back to exactly the same value.
+IOUTILS_API std::wstring formatShortest(double value);
+IOUTILS_API std::wstring formatInt(long long value);
+
+}  // namespace ioutils

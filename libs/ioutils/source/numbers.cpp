@@ -1,0 +1,116 @@
+#include "ioutils/Numbers.h"
+
+#include <charconv>
+#include <clocale>
+#include <cstdlib>
+#include <locale.h>
+#include <climits>
+#include <cwctype>
+#include <string>
+
+namespace ioutils {
+namespace {
+
+bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+std::size_t skipBlanks(std::wstring_view text) {
+    std::size_t pos = 0;
+    while (pos < text.size() && std::iswspace(static_cast<wint_t>(text[pos]))) ++pos;
+    return pos;
+}
+
+std::size_t skipDigits(std::wstring_view text, std::size_t pos) {
+    while (pos < text.size() && isDigit(text[pos])) ++pos;
+    return pos;
+}
+
+bool startsWithWord(std::wstring_view text, std::size_t pos, std::wstring_view word) {
+    if (text.size() - pos < word.size()) return false;
+    for (std::size_t i = 0; i < word.size(); ++i)
+        if (std::towlower(static_cast<wint_t>(text[pos + i])) != static_cast<wint_t>(word[i]))
+            return false;
+    return true;
+}
+
+// Length of the decimal number at `pos` (digits, point, exponent); 0 if none.
+std::size_t decimalLength(std::wstring_view text, std::size_t pos) {
+    std::size_t end = skipDigits(text, pos);
+    bool digits = end > pos;
+    if (end < text.size() && text[end] == L'.') {
+        const std::size_t fraction = skipDigits(text, end + 1);
+        digits = digits || fraction > end + 1;
+        end = fraction;
+    }
+    if (!digits) return 0;
+    if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
+        std::size_t exponent = end + 1;
+        if (exponent < text.size() && (text[exponent] == L'+' || text[exponent] == L'-'))
+            ++exponent;
+        const std::size_t exponentEnd = skipDigits(text, exponent);
+        if (exponentEnd > exponent) end = exponentEnd;
+    }
+    return end - pos;
+}
+
+std::wstring wideFromAscii(const char* begin, const char* end) { return std::wstring(begin, end); }
+
+}  // namespace
+
+double parseDouble(std::wstring_view text) {
+    std::size_t pos = skipBlanks(text);
+    bool negative = false;
+    if (pos < text.size() && (text[pos] == L'+' || text[pos] == L'-'))
+        negative = text[pos++] == L'-';
+    std::string ascii;
+    if (const std::size_t length = decimalLength(text, pos); length > 0) {
+        for (std::size_t i = pos; i < pos + length; ++i) ascii += static_cast<char>(text[i]);
+    } else if (startsWithWord(text, pos, L"inf")) {
+        ascii = "inf";
+    } else if (startsWithWord(text, pos, L"nan")) {
+        ascii = "nan";
+    } else {
+        return 0.0;
+    }
+    // The C locale's strtod gives the correctly rounded value, and infinity
+    // or zero where the number is out of range.
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", locale_t{});
+    const double value = strtod_l(ascii.c_str(), nullptr, cLocale);
+    return negative ? -value : value;
+}
+
+int parseInt(std::wstring_view text) {
+    std::size_t pos = skipBlanks(text);
+    bool negative = false;
+    if (pos < text.size() && (text[pos] == L'+' || text[pos] == L'-'))
+        negative = text[pos++] == L'-';
+    long long value = 0;
+    for (; pos < text.size() && isDigit(text[pos]); ++pos) {
+        value = value * 10 + (text[pos] - L'0');
+        if (value > static_cast<long long>(INT_MAX) + 1) break;
+    }
+    if (negative) value = -value;
+    if (value > INT_MAX) return INT_MAX;
+    if (value < INT_MIN) return INT_MIN;
+    return static_cast<int>(value);
+}
+
+std::wstring formatFixed4(double value) {
+    char buffer[400];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof(buffer), value, std::chars_format::fixed, 4);
+    return wideFromAscii(buffer, result.ptr);
+}
+
+std::wstring formatShortest(double value) {
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    return wideFromAscii(buffer, result.ptr);
+}
+
+std::wstring formatInt(long long value) {
+    char buffer[32];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    return wideFromAscii(buffer, result.ptr);
+}
+
+}  // namespace ioutils
