@@ -94,6 +94,47 @@ int parseInt(std::wstring_view text) {
     return static_cast<int>(value);
 }
 
+namespace {
+
+// The text between leading and trailing blanks.
+std::wstring_view trimmed(std::wstring_view text) {
+    text.remove_prefix(skipBlanks(text));
+    while (!text.empty() && std::iswspace(static_cast<wint_t>(text.back()))) text.remove_suffix(1);
+    return text;
+}
+
+std::size_t signLength(std::wstring_view text) {
+    return !text.empty() && (text[0] == L'+' || text[0] == L'-') ? 1 : 0;
+}
+
+}  // namespace
+
+bool readDouble(std::wstring_view text, double& value) {
+    text = trimmed(text);
+    const std::size_t sign = signLength(text);
+    const std::size_t length = decimalLength(text, sign);
+    const std::wstring_view word = text.substr(sign);
+    const bool special = word == L"inf" || word == L"infinity" || word == L"nan";
+    if (!special && (length == 0 || sign + length != text.size())) return false;
+    value = parseDouble(text);
+    return true;
+}
+
+bool readInt(std::wstring_view text, int& value) {
+    text = trimmed(text);
+    const std::size_t sign = signLength(text);
+    if (sign == text.size() || skipDigits(text, sign) != text.size()) return false;
+    long long result = 0;
+    for (std::size_t i = sign; i < text.size(); ++i) {
+        result = result * 10 + (text[i] - L'0');
+        if (result > static_cast<long long>(INT_MAX) + 1) return false;
+    }
+    if (text[0] == L'-') result = -result;
+    if (result > INT_MAX || result < INT_MIN) return false;
+    value = static_cast<int>(result);
+    return true;
+}
+
 std::wstring formatFixed4(double value) {
     char buffer[400];
     const auto result =

@@ -22,4 +22,8 @@ IOUTILS_API std::wstring formatFixed4(double value);
 IOUTILS_API std::wstring formatShortest(double value);
 IOUTILS_API std::wstring formatInt(long long value);
 
+// Strict forms: the whole text, blanks around it aside, must be one number.
+IOUTILS_API bool readDouble(std::wstring_view text, double& value);
+IOUTILS_API bool readInt(std::wstring_view text, int& value);
+
 }  // namespace ioutils

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "tableobj/Export.h"
+
+namespace tableobj {
+
+// Escapes element text in place: "&" becomes "&amp;" unless an "a" or "A"
+// follows it (so entities such as "&amp;" and "&apos;" pass through), then
+// "<" and ">" become "&lt;" and "&gt;". After each "&" the search resumes
+// three characters on. Stored configurations were written with these exact
+// rules, so they must not change.
+TABLEOBJ_API void escapeText(std::wstring& text);
+// As escapeText, then '"' becomes "&quot;". Apostrophes stay as they are.
+TABLEOBJ_API void escapeAttribute(std::wstring& text);
+
+}  // namespace tableobj

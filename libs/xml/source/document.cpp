@@ -1,0 +1,175 @@
+#include <libxml/SAX2.h>
+#include <libxml/parser.h>
+
+#include <cstdint>
+#include <memory>
+
+#include "dom.h"
+#include "kazxml/SAX.h"
+#include "libxmlsupport.h"
+
+namespace kaz::xml {
+namespace {
+
+using detail::ErrorReport;
+
+// The state of one load, reached through the parser context's _private
+// (libxml2's tree builder needs the context itself as user data).
+struct LoadState {
+    int depth = 0;
+    bool failed = false;
+    ErrorReport failure;  // the first fatal error or refusal
+
+    static LoadState& of(void* ctx) {
+        return *static_cast<LoadState*>(static_cast<xmlParserCtxtPtr>(ctx)->_private);
+    }
+
+    // Never throws: it runs inside libxml2's C frames.
+    void record(long code, int line, int column, const xmlChar* message) noexcept {
+        if (failed) return;
+        failed = true;
+        failure.code = code;
+        failure.line = line;
+        failure.column = column;
+        try {
+            failure.message = detail::toWide(message);
+            while (!failure.message.empty() && failure.message.back() == L'\n')
+                failure.message.pop_back();
+        } catch (...) {
+            failure.message.clear();
+        }
+    }
+
+    void refuse(xmlParserCtxtPtr ctxt, long code, const char* message) noexcept {
+        record(code, detail::currentLine(ctxt), detail::currentColumn(ctxt), BAD_CAST message);
+        xmlStopParser(ctxt);
+    }
+};
+
+constexpr char kDoctypeRefused[] = "document type declarations are not allowed";
+constexpr char kTooDeep[] = "elements nested deeper than 256 levels";
+
+void onInternalSubset(void* ctx, const xmlChar*, const xmlChar*, const xmlChar*) {
+    LoadState::of(ctx).refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_DTD_PROHIBITED,
+                              kDoctypeRefused);
+}
+
+void onStartElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
+                    int namespaceCount, const xmlChar** namespaces, int attributeCount,
+                    int defaultedCount, const xmlChar** attributes) {
+    LoadState& state = LoadState::of(ctx);
+    if (++state.depth > SAXXMLReader::kMaxDepth)
+        return state.refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_TOO_DEEP, kTooDeep);
+    xmlSAX2StartElementNs(ctx, localName, prefix, uri, namespaceCount, namespaces, attributeCount,
+                          defaultedCount, attributes);
+}
+
+void onEndElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri) {
+    --LoadState::of(ctx).depth;
+    xmlSAX2EndElementNs(ctx, localName, prefix, uri);
+}
+
+void onError(void* ctx, xmlErrorPtr error) {
+    if (error == nullptr || error->level != XML_ERR_FATAL) return;
+    LoadState::of(ctx).record(XML_E_PARSE_BASE + error->code, error->line, error->int2,
+                              BAD_CAST error->message);
+}
+
+// libxml2's tree builder, minus everything that touches a DTD or an entity
+// declaration; errors come to us only.
+void secure(xmlSAXHandler& sax) {
+    sax.internalSubset = onInternalSubset;
+    sax.externalSubset = nullptr;
+    sax.resolveEntity = nullptr;
+    sax.getEntity = nullptr;
+    sax.getParameterEntity = nullptr;
+    sax.entityDecl = nullptr;
+    sax.notationDecl = nullptr;
+    sax.attributeDecl = nullptr;
+    sax.elementDecl = nullptr;
+    sax.unparsedEntityDecl = nullptr;
+    sax.startElementNs = onStartElement;
+    sax.endElementNs = onEndElement;
+    sax.warning = nullptr;
+    sax.error = nullptr;
+    sax.fatalError = nullptr;
+    sax.serror = onError;
+}
+
+struct ContextFree {
+    void operator()(xmlParserCtxtPtr ctxt) const { xmlFreeParserCtxt(ctxt); }
+};
+
+// The parsed tree, or null with `state.failure` telling why.
+std::shared_ptr<const detail::DocumentTree> load(const std::string& utf8, LoadState& state) {
+    if (detail::blank(utf8)) {
+        state.failed = true;
+        state.failure = detail::emptyDocument();
+        return nullptr;
+    }
+    std::unique_ptr<xmlParserCtxt, ContextFree> ctxt(xmlNewParserCtxt());
+    if (!ctxt) throw std::bad_alloc();
+    ctxt->_private = &state;
+    secure(*ctxt->sax);
+    xmlDocPtr doc = xmlCtxtReadMemory(ctxt.get(), utf8.data(), static_cast<int>(utf8.size()),
+                                      nullptr, "UTF-8", detail::kParseOptions);
+    if (doc != nullptr && !state.failed && ctxt->wellFormed) {
+        return std::make_shared<const detail::DocumentTree>(doc);
+    }
+    xmlFreeDoc(doc);
+    if (!state.failed) {  // a failure that did not reach us as a fatal error
+        const xmlError& last = ctxt->lastError;
+        state.record(XML_E_PARSE_BASE + (last.code != 0 ? last.code : ctxt->errNo), last.line,
+                     last.int2, BAD_CAST last.message);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+struct Document::Impl {
+    std::shared_ptr<const detail::DocumentTree> tree;
+    ParseErrorInfo error;
+
+    detail::Owner owner() const { return {tree, nullptr}; }
+    xmlNodePtr root() const { return reinterpret_cast<xmlNodePtr>(tree->doc); }
+};
+
+Document::Document() : impl_(std::make_shared<Impl>()) {}
+Document::~Document() = default;
+
+IXMLDOMDocument2Ptr Document::create() { return IXMLDOMDocument2Ptr(new Document()); }
+
+bool Document::loadXML(const std::wstring& text) {
+    impl_->tree.reset();
+    impl_->error = ParseErrorInfo();
+    detail::ensureParserInitialized();
+    LoadState state;
+    impl_->tree = load(detail::utf8ForParser(text), state);
+    if (impl_->tree) return true;
+    const ErrorReport& failure = state.failure;
+    impl_->error = {failure.code, failure.line, failure.column, failure.message};
+    return false;
+}
+
+const ParseErrorInfo& Document::parseError() const { return impl_->error; }
+
+IXMLDOMNodePtr Document::documentElement() const {
+    if (!impl_->tree) return nullptr;
+    return detail::makeNode(impl_->owner(), xmlDocGetRootElement(impl_->tree->doc));
+}
+
+IXMLDOMNodePtr Document::selectSingleNode(const std::wstring& xpath) const {
+    std::vector<IXMLDOMNodePtr> nodes = selectNodesUpTo(xpath, 1);
+    return nodes.empty() ? nullptr : nodes.front();
+}
+
+std::vector<IXMLDOMNodePtr> Document::selectNodes(const std::wstring& xpath) const {
+    return selectNodesUpTo(xpath, SIZE_MAX);
+}
+
+std::wstring Document::xml() const {
+    return impl_->tree ? detail::serialize(impl_->root()) : std::wstring();
+}
+
+}  // namespace kaz::xml

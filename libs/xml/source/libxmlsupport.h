@@ -1,0 +1,56 @@
+#pragma once
+
+#include <libxml/parser.h>
+#include <libxml/xmlerror.h>
+
+#include <string>
+#include <string_view>
+
+#include "kazxml/Result.h"
+
+// Helpers shared by the SAX reader and the document loader.
+namespace kaz::xml::detail {
+
+// Nothing from the network; the text is UTF-8 whatever its declaration says.
+// Entities are never substituted (no XML_PARSE_NOENT) and no DTD is loaded.
+constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC;
+
+constexpr wchar_t kDoctypeRefused[] = L"document type declarations are not allowed";
+constexpr wchar_t kTooDeep[] = L"elements nested deeper than 256 levels";
+
+// Initializes libxml2 once per process, before the first parse.
+void ensureParserInitialized();
+
+// The text as UTF-8 for libxml2, without a leading byte order mark (which
+// libxml2 would take for content once told the text is UTF-8).
+std::string utf8ForParser(const std::wstring& text);
+// True when the text holds nothing but XML whitespace.
+bool blank(std::string_view utf8);
+
+std::wstring toWide(const xmlChar* text);
+std::wstring toWide(const xmlChar* text, std::size_t length);
+inline const xmlChar* asXmlChars(const std::string& text) {
+    return reinterpret_cast<const xmlChar*>(text.c_str());
+}
+
+// One problem found in the text, with its place.
+struct ErrorReport {
+    long code = S_OK;
+    int line = 0;
+    int column = 0;
+    std::wstring message;
+};
+
+// A libxml2 error as we report it: our code range, message without newline.
+ErrorReport reportFrom(const xmlError& error);
+// One of our own refusals, at the parser's current position.
+ErrorReport refusalAt(const xmlParserCtxt* ctxt, long code);
+// The report of a text holding no element at all.
+ErrorReport emptyDocument();
+// "line 3, column 7: <message>"
+std::wstring describe(const ErrorReport& report);
+
+int currentLine(const xmlParserCtxt* ctxt);
+int currentColumn(const xmlParserCtxt* ctxt);
+
+}  // namespace kaz::xml::detail

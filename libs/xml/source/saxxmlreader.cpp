@@ -1,0 +1,404 @@
+#include <libxml/SAX2.h>
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "kazxml/SAX.h"
+#include "libxmlsupport.h"
+#include "saxattributes.h"
+
+namespace kaz::xml {
+namespace {
+
+using detail::ErrorReport;
+using detail::toWide;
+
+constexpr std::size_t kChunkSize = 64 * 1024;
+
+std::wstring qualified(const xmlChar* prefix, const xmlChar* localName) {
+    if (prefix == nullptr) return toWide(localName);
+    return toWide(prefix) + L':' + toWide(localName);
+}
+
+std::wstring hex(long code) {
+    wchar_t text[16];
+    std::swprintf(text, std::size(text), L"0x%08lX", static_cast<unsigned long>(code) & 0xFFFFFFFFul);
+    return text;
+}
+
+// Answers the parser's current position, or that of the error being reported.
+class Locator final : public ISAXLocator {
+public:
+    void attach(const xmlParserCtxt* ctxt) { ctxt_ = ctxt; }
+    void pin(const ErrorReport* report) { pinned_ = report; }
+
+    long getColumnNumber(int* column) override {
+        if (column == nullptr) return E_POINTER;
+        *column = pinned_ != nullptr ? pinned_->column : detail::currentColumn(ctxt_);
+        return S_OK;
+    }
+    long getLineNumber(int* line) override {
+        if (line == nullptr) return E_POINTER;
+        *line = pinned_ != nullptr ? pinned_->line : detail::currentLine(ctxt_);
+        return S_OK;
+    }
+    // Text in memory has neither identifier.
+    long getPublicId(const wchar_t** publicId) override { return none(publicId); }
+    long getSystemId(const wchar_t** systemId) override { return none(systemId); }
+
+private:
+    static long none(const wchar_t** id) {
+        if (id == nullptr) return E_POINTER;
+        *id = L"";
+        return S_OK;
+    }
+
+    const xmlParserCtxt* ctxt_ = nullptr;
+    const ErrorReport* pinned_ = nullptr;
+};
+
+// One parse: the libxml2 push parser context and everything its callbacks
+// need (reached through the context's user data). No exception ever leaves a
+// callback into libxml2; it is kept and rethrown once the context is freed.
+class ParseSession {
+public:
+    ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors)
+        : content_(content), errors_(errors) {}
+    ~ParseSession() {
+        if (ctxt_ != nullptr) xmlFreeParserCtxt(ctxt_);
+    }
+    ParseSession(const ParseSession&) = delete;
+    ParseSession& operator=(const ParseSession&) = delete;
+
+    long run(const std::string& utf8);
+    std::exception_ptr exception() const { return exception_; }
+    const std::wstring& description() const { return description_; }
+
+private:
+    static xmlSAXHandler makeHandler();
+    static ParseSession& of(void* userData) { return *static_cast<ParseSession*>(userData); }
+
+    bool open();
+    void feed(const std::string& utf8);
+    void finish();
+
+    // Runs one content event: a failure code or an exception ends the parse.
+    template <typename Event>
+    void deliver(Event&& event);
+    // Runs body unless the parse has ended; halts libxml2 if it ends it.
+    template <typename Body>
+    void inCallback(Body&& body);
+    template <typename Body>
+    void guarded(Body&& body);
+
+    void startElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
+                      int namespaceCount, const xmlChar** namespaces, int attributeCount,
+                      const xmlChar** attributes);
+    void endElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri);
+    void characters(const xmlChar* text, int length);
+    void refuse(long code);
+    void report(const ErrorReport& report, xmlErrorLevel level);
+    long callErrorHandler(const ErrorReport& report, xmlErrorLevel level);
+    void fail(long code, const std::wstring& description);
+
+    static void onStartDocument(void* userData);
+    static void onStartElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
+                               const xmlChar* uri, int namespaceCount, const xmlChar** namespaces,
+                               int attributeCount, int defaultedCount, const xmlChar** attributes);
+    static void onEndElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
+                             const xmlChar* uri);
+    static void onCharacters(void* userData, const xmlChar* text, int length);
+    static void onProcessingInstruction(void* userData, const xmlChar* target,
+                                        const xmlChar* data);
+    static void onInternalSubset(void* userData, const xmlChar* name, const xmlChar* externalId,
+                                 const xmlChar* systemId);
+    static void onError(void* userData, xmlErrorPtr error);
+
+    xmlParserCtxtPtr ctxt_ = nullptr;
+    ISAXContentHandler* content_;
+    ISAXErrorHandler* errors_;
+    Locator locator_;
+    detail::SAXAttributes attributes_;
+    // Prefixes declared by each open element, for endPrefixMapping.
+    std::vector<std::vector<std::wstring>> prefixes_;
+    int depth_ = 0;
+    bool ended_ = false;  // by a failure, an exception or a refusal
+    long result_ = S_OK;
+    std::wstring description_;
+    std::exception_ptr exception_;
+};
+
+xmlSAXHandler ParseSession::makeHandler() {
+    // Only what we report; without getEntity, entityDecl or the default
+    // handlers no entity is ever declared, loaded or expanded.
+    xmlSAXHandler handler{};
+    handler.initialized = XML_SAX2_MAGIC;
+    handler.startDocument = onStartDocument;
+    handler.startElementNs = onStartElement;
+    handler.endElementNs = onEndElement;
+    handler.characters = onCharacters;
+    handler.cdataBlock = onCharacters;
+    handler.processingInstruction = onProcessingInstruction;
+    handler.internalSubset = onInternalSubset;
+    handler.serror = onError;
+    return handler;
+}
+
+long ParseSession::run(const std::string& utf8) {
+    if (!open()) return E_OUTOFMEMORY;
+    if (content_ != nullptr) deliver([&] { return content_->putDocumentLocator(&locator_); });
+    if (detail::blank(utf8)) {
+        // libxml2 calls an empty text "extra content"; say what it is.
+        if (!ended_) report(detail::emptyDocument(), XML_ERR_FATAL);
+    } else {
+        feed(utf8);
+    }
+    finish();
+    return result_;
+}
+
+bool ParseSession::open() {
+    detail::ensureParserInitialized();
+    xmlSAXHandler handler = makeHandler();
+    ctxt_ = xmlCreatePushParserCtxt(&handler, this, nullptr, 0, nullptr);
+    if (ctxt_ == nullptr) return false;
+    xmlCtxtUseOptions(ctxt_, detail::kParseOptions);
+    xmlSwitchEncoding(ctxt_, XML_CHAR_ENCODING_UTF8);
+    locator_.attach(ctxt_);
+    return true;
+}
+
+void ParseSession::feed(const std::string& utf8) {
+    for (std::size_t offset = 0; offset < utf8.size() && !ended_;) {
+        const std::size_t size = std::min(kChunkSize, utf8.size() - offset);
+        const bool last = offset + size == utf8.size();
+        xmlParseChunk(ctxt_, utf8.data() + offset, static_cast<int>(size), last ? 1 : 0);
+        offset += size;
+    }
+}
+
+void ParseSession::finish() {
+    if (!ended_ && ctxt_->wellFormed == 0) {
+        // A fatal error that did not reach us as such.
+        ErrorReport last = detail::reportFrom(ctxt_->lastError);
+        last.code = XML_E_PARSE_BASE + ctxt_->errNo;
+        fail(last.code, detail::describe(last));
+    }
+    if (!ended_ && content_ != nullptr) deliver([&] { return content_->endDocument(); });
+}
+
+template <typename Body>
+void ParseSession::guarded(Body&& body) {
+    try {
+        body();
+    } catch (...) {
+        exception_ = std::current_exception();
+        fail(E_FAIL, L"a handler threw an exception");
+    }
+}
+
+template <typename Body>
+void ParseSession::inCallback(Body&& body) {
+    if (ended_) return;
+    guarded(body);
+    if (ended_) xmlStopParser(ctxt_);
+}
+
+template <typename Event>
+void ParseSession::deliver(Event&& event) {
+    if (ended_ || content_ == nullptr) return;
+    guarded([&] {
+        const long result = event();
+        if (failed(result)) {
+            const ErrorReport here{result, detail::currentLine(ctxt_),
+                                   detail::currentColumn(ctxt_),
+                                   L"the content handler answered " + hex(result)};
+            fail(result, detail::describe(here));
+        }
+    });
+}
+
+void ParseSession::fail(long code, const std::wstring& description) {
+    if (result_ == S_OK) {
+        result_ = code;
+        description_ = description;
+    }
+    // Ends SAX events at once; the parser itself is halted by the callback
+    // that ended the parse (never from inside libxml2's error reporting).
+    ended_ = true;
+    if (ctxt_ != nullptr) ctxt_->disableSAX = 1;
+}
+
+void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
+                                const xmlChar* uri, int namespaceCount,
+                                const xmlChar** namespaces, int attributeCount,
+                                const xmlChar** attributes) {
+    if (++depth_ > SAXXMLReader::kMaxDepth) return refuse(XML_E_TOO_DEEP);
+    if (content_ == nullptr) return;
+    std::vector<std::wstring>& declared = prefixes_.emplace_back();
+    for (int i = 0; i < namespaceCount && !ended_; ++i) {
+        declared.push_back(toWide(namespaces[2 * i]));
+        const std::wstring target = toWide(namespaces[2 * i + 1]);
+        deliver([&] {
+            return content_->startPrefixMapping(declared.back().c_str(),
+                                                static_cast<int>(declared.back().size()),
+                                                target.c_str(), static_cast<int>(target.size()));
+        });
+    }
+    attributes_.assign(namespaceCount, namespaces, attributeCount, attributes);
+    const std::wstring ns = toWide(uri);
+    const std::wstring local = toWide(localName);
+    const std::wstring qName = qualified(prefix, localName);
+    deliver([&] {
+        return content_->startElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
+                                      static_cast<int>(local.size()), qName.c_str(),
+                                      static_cast<int>(qName.size()), &attributes_);
+    });
+}
+
+void ParseSession::endElement(const xmlChar* localName, const xmlChar* prefix,
+                              const xmlChar* uri) {
+    --depth_;
+    if (content_ == nullptr) return;
+    const std::wstring ns = toWide(uri);
+    const std::wstring local = toWide(localName);
+    const std::wstring qName = qualified(prefix, localName);
+    deliver([&] {
+        return content_->endElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
+                                    static_cast<int>(local.size()), qName.c_str(),
+                                    static_cast<int>(qName.size()));
+    });
+    if (prefixes_.empty()) return;
+    for (const std::wstring& prefix : prefixes_.back())
+        deliver([&] {
+            return content_->endPrefixMapping(prefix.c_str(), static_cast<int>(prefix.size()));
+        });
+    prefixes_.pop_back();
+}
+
+void ParseSession::characters(const xmlChar* text, int length) {
+    const std::wstring chars = toWide(text, static_cast<std::size_t>(length));
+    deliver([&] { return content_->characters(chars.c_str(), static_cast<int>(chars.size())); });
+}
+
+void ParseSession::refuse(long code) { report(detail::refusalAt(ctxt_, code), XML_ERR_FATAL); }
+
+void ParseSession::report(const ErrorReport& report, xmlErrorLevel level) {
+    if (level == XML_ERR_FATAL) fail(report.code, detail::describe(report));
+    if (errors_ == nullptr) return;
+    locator_.pin(&report);
+    guarded([&] {
+        const long answer = callErrorHandler(report, level);
+        if (failed(answer)) fail(answer, detail::describe(report));
+    });
+    locator_.pin(nullptr);
+}
+
+long ParseSession::callErrorHandler(const ErrorReport& report, xmlErrorLevel level) {
+    const wchar_t* message = report.message.c_str();
+    switch (level) {
+        case XML_ERR_WARNING:
+            return errors_->ignorableWarning(&locator_, message, report.code);
+        case XML_ERR_ERROR:
+            return errors_->error(&locator_, message, report.code);
+        default:
+            return errors_->fatalError(&locator_, message, report.code);
+    }
+}
+
+void ParseSession::onStartDocument(void* userData) {
+    ParseSession& session = of(userData);
+    session.inCallback([&] { session.deliver([&] { return session.content_->startDocument(); }); });
+}
+
+void ParseSession::onStartElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
+                                  const xmlChar* uri, int namespaceCount,
+                                  const xmlChar** namespaces, int attributeCount, int,
+                                  const xmlChar** attributes) {
+    ParseSession& session = of(userData);
+    session.inCallback([&] {
+        session.startElement(localName, prefix, uri, namespaceCount, namespaces, attributeCount,
+                             attributes);
+    });
+}
+
+void ParseSession::onEndElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
+                                const xmlChar* uri) {
+    ParseSession& session = of(userData);
+    session.inCallback([&] { session.endElement(localName, prefix, uri); });
+}
+
+void ParseSession::onCharacters(void* userData, const xmlChar* text, int length) {
+    ParseSession& session = of(userData);
+    if (session.content_ == nullptr) return;
+    session.inCallback([&] { session.characters(text, length); });
+}
+
+void ParseSession::onProcessingInstruction(void* userData, const xmlChar* target,
+                                           const xmlChar* data) {
+    ParseSession& session = of(userData);
+    if (session.content_ == nullptr) return;
+    session.inCallback([&] {
+        const std::wstring name = toWide(target);
+        const std::wstring text = toWide(data);
+        session.deliver([&] {
+            return session.content_->processingInstruction(name.c_str(),
+                                                           static_cast<int>(name.size()),
+                                                           text.c_str(), static_cast<int>(text.size()));
+        });
+    });
+}
+
+void ParseSession::onInternalSubset(void* userData, const xmlChar*, const xmlChar*,
+                                    const xmlChar*) {
+    ParseSession& session = of(userData);
+    // Whatever the handler answers, a document type declaration ends the parse.
+    session.inCallback([&] { session.refuse(XML_E_DTD_PROHIBITED); });
+}
+
+void ParseSession::onError(void* userData, xmlErrorPtr error) {
+    ParseSession& session = of(userData);
+    if (session.ended_ || error == nullptr) return;
+    // Only flags from here: halting libxml2 inside its own error reporting
+    // would free input it may still be reading.
+    session.guarded([&] { session.report(detail::reportFrom(*error), error->level); });
+}
+
+}  // namespace
+
+SAXXMLReader::SAXXMLReader() = default;
+SAXXMLReader::~SAXXMLReader() = default;
+
+long SAXXMLReader::putContentHandler(ISAXContentHandler* handler) {
+    contentHandler_ = handler;
+    return S_OK;
+}
+
+long SAXXMLReader::putErrorHandler(ISAXErrorHandler* handler) {
+    errorHandler_ = handler;
+    return S_OK;
+}
+
+long SAXXMLReader::parse(const std::wstring& text) {
+    errorDescription_.clear();
+    const std::string utf8 = detail::utf8ForParser(text);
+    long result = S_OK;
+    std::exception_ptr exception;
+    {
+        ParseSession session(contentHandler_, errorHandler_);
+        result = session.run(utf8);
+        exception = session.exception();
+        errorDescription_ = session.description();
+    }  // the parser context is freed here, before any exception goes on
+    if (exception) std::rethrow_exception(exception);
+    return result;
+}
+
+const std::wstring& SAXXMLReader::getErrorDescription() const { return errorDescription_; }
+
+}  // namespace kaz::xml

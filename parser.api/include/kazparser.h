@@ -1,0 +1,14 @@
+#pragma once
+
+// kazparser: reads presentation-engine configuration texts into trees of
+// typed, editable nodes and writes them back as XML.
+
+#include "kazexception/IKAZException.h"
+#include "kazexception/KAZExceptionFactory.h"
+#include "kazparser/INodeCfg.h"
+#include "kazparser/INodeCfgCollection.h"
+#include "kazparser/IXNodeCfg.h"
+#include "kazparser/KAZConfigFactory.h"
+#include "kazparser/XmlEscaping.h"
+#include "kazxml/PlatformError.h"
+#include "memobject/MemObject.h"

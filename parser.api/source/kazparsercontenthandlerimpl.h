@@ -1,0 +1,54 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "kazparser/INodeCfg.h"
+#include "kazsaxattributesimpl.h"
+#include "nodestackhandler.h"
+
+namespace kaz::kazparser {
+
+// Builds a configuration tree from the reader's events: picks each
+// element's node kind by its name, by the kind expected for the root, or
+// by its parent's kind, and attaches every finished node to its parent.
+// Problems that do not stop the reader are collected in an error text.
+class KAZParserContentHandlerImpl final : public NodeStackHandler {
+public:
+    explicit KAZParserContentHandlerImpl(INodeCfg* parent);
+    ~KAZParserContentHandlerImpl() override;
+
+    // The kind to create for the first element.
+    void expectKind(INodeCfg::NodeType kind) { expectedKind_ = kind; }
+
+    long endDocument() override;
+    long startElement(const wchar_t* uri, int uriLength, const wchar_t* localName,
+                      int localNameLength, const wchar_t* qName, int qNameLength,
+                      kaz::xml::ISAXAttributes* attributes) override;
+    long endElement(const wchar_t* uri, int uriLength, const wchar_t* localName,
+                    int localNameLength, const wchar_t* qName, int qNameLength) override;
+    long characters(const wchar_t* chars, int length) override;
+
+    bool hasError() const { return errorFlag_; }
+    const std::wstring& errorText() const { return errorText_; }
+
+private:
+    INodeCfg* createNode(const std::wstring& name, KAZSAXAttributesImpl& attributes);
+    void attachToParent(INodeCfg* child, const std::wstring& name);
+    void addError(const std::wstring& text);
+    // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
+    void replaceRootDirectory(std::wstring& text);
+    void freeRefused();
+
+    bool errorFlag_ = false;
+    std::wstring errorText_;
+    std::optional<INodeCfg::NodeType> expectedKind_;
+    // Children their parent did not take; freed at the end of the document.
+    std::vector<INodeCfg*> refused_;
+    // For each open element, whether its start made a node.
+    std::vector<bool> madeNode_;
+    std::optional<std::wstring> rootDirectory_;
+};
+
+}  // namespace kaz::kazparser

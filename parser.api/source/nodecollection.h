@@ -1,0 +1,137 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "kazparser/INodeCfgCollection.h"
+#include "nodeerrors.h"
+#include "nodeimpl.h"
+
+namespace kaz::kazparser {
+
+// The ordered, owning list shared by every collection kind. `Interface` is
+// the kind's interface (an INodeCfgCollection), `Item` the one item
+// interface it accepts, `Derived` the implementation class, which names
+// itself in error contexts through `Derived::kClassName`.
+//
+// Kinds with extra rules (a name index, refusing duplicates) override the
+// public operations and build them from the protected steps.
+template <class Interface, class Item, class Derived>
+class NodeCollection : public NodeImpl<Interface> {
+public:
+    unsigned int append(INodeCfg* item) override {
+        return appendItem(castItem(item, L"append"));
+    }
+
+    unsigned int insert(INodeCfg* item, unsigned int index) override {
+        Item* typed = castItem(item, L"insert");
+        checkIndex(index, L"insert");
+        insertItem(typed, index);
+        return index;
+    }
+
+    INodeCfg* operator[](unsigned int index) const override { return getChild(index); }
+
+    INodeCfg* replace(INodeCfg* item, unsigned int index) override {
+        Item* typed = castItem(item, L"replace");
+        checkIndex(index, L"replace");
+        return replaceItem(typed, index);
+    }
+
+    INodeCfg* remove(unsigned int index) override {
+        checkIndex(index, L"remove");
+        return removeItem(index);
+    }
+
+    unsigned int getCount() const override { return static_cast<unsigned int>(items_.size()); }
+    unsigned int getChildCount() const override { return getCount(); }
+
+    INodeCfg* getChild(unsigned int index) const override {
+        checkIndex(index, L"getChild");
+        return items_[index];
+    }
+
+    bool setChild(INodeCfg* child) override { return this->append(child) != kNoPosition; }
+
+    void deleteChildren() override {
+        for (Item* item : items_) delete item;
+        items_.clear();
+    }
+
+    // Collections without attributes: "<name>", the items, "</name>".
+    bool writeXml(IXmlWriter& out) const override {
+        const std::wstring& name = this->getName();
+        return this->writeElement(out, StartTag(name).str(), name);
+    }
+
+protected:
+    explicit NodeCollection(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
+
+    // Copies every item in order, each made a child of the copy.
+    NodeCollection(const NodeCollection& other) : NodeImpl<Interface>(other) {
+        items_.reserve(other.items_.size());
+        for (const Item* item : other.items_) {
+            INodeCfg* copy = item->clone();
+            if (Item* typed = dynamic_cast<Item*>(copy)) {
+                appendItem(typed);
+            } else {
+                delete copy;
+            }
+        }
+    }
+
+    ~NodeCollection() override { deleteChildren(); }
+
+    // The item as the accepted interface, or "Invalid argument" naming `method`.
+    Item* castItem(INodeCfg* item, const wchar_t* method) const {
+        Item* typed = dynamic_cast<Item*>(item);
+        if (typed == nullptr) errors::invalidArgument(KAZ_HERE(Derived::kClassName, method));
+        return typed;
+    }
+
+    void checkIndex(unsigned int index, const wchar_t* method) const {
+        if (index >= items_.size()) errors::indexOutOfRange(index, KAZ_HERE(Derived::kClassName, method));
+    }
+
+    unsigned int appendItem(Item* item) {
+        items_.push_back(item);
+        item->setParent(this);
+        return getCount();
+    }
+
+    void insertItem(Item* item, unsigned int index) {
+        items_.insert(items_.begin() + index, item);
+        item->setParent(this);
+    }
+
+    Item* replaceItem(Item* item, unsigned int index) {
+        Item* previous = items_[index];
+        items_[index] = item;
+        item->setParent(this);
+        previous->setParent(nullptr);
+        return previous;
+    }
+
+    Item* removeItem(unsigned int index) {
+        Item* item = items_[index];
+        items_.erase(items_.begin() + index);
+        item->setParent(nullptr);
+        return item;
+    }
+
+    // The position of the last item whose getName() is `name`, or kNoPosition.
+    unsigned int lastPositionOf(const std::wstring& name) const {
+        unsigned int found = kNoPosition;
+        for (std::size_t i = 0; i < items_.size(); ++i)
+            if (items_[i]->getName() == name) found = static_cast<unsigned int>(i);
+        return found;
+    }
+
+    const std::vector<Item*>& items() const { return items_; }
+
+private:
+    std::vector<Item*> items_;
+};
+
+}  // namespace kaz::kazparser

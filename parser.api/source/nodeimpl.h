@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "kazparser/INodeCfg.h"
+#include "tableobj/IXmlWriter.h"
+#include "xmltags.h"
+
+namespace kaz::kazparser {
+
+// The state and behaviour that every node kind shares: the parent pointer,
+// the toXml buffer, and writing an element as start tag, children, end tag.
+// `Interface` is the kind's interface.
+template <class Interface>
+class NodeImpl : public Interface {
+public:
+    INodeCfg* getParent() const override { return parent_; }
+    void setParent(INodeCfg* parent) override { parent_ = parent; }
+    bool isValid() const override { return true; }
+
+    // The text is produced by writeXml into the node's own buffer, so that
+    // repeated calls allocate only for growth.
+    const std::wstring& toXml() const override {
+        xmlText_.clear();
+        tableobj::StringXmlWriter out(xmlText_);
+        this->writeXml(out);
+        return xmlText_;
+    }
+
+protected:
+    explicit NodeImpl(INodeCfg* parent) : parent_(parent) {}
+    // A copy keeps the source's parent; the text buffer is not copied.
+    NodeImpl(const NodeImpl& other) : Interface(), parent_(other.parent_) {}
+    NodeImpl& operator=(const NodeImpl&) = delete;
+
+    // Writes `startTag`, then each present child in getChild order, then the
+    // end tag of `name`; answers the end-tag write.
+    bool writeElement(IXmlWriter& out, std::wstring startTag, const std::wstring& name) const {
+        out.write(std::move(startTag));
+        writeChildren(out);
+        return out.write(endTag(name));
+    }
+
+    void writeChildren(IXmlWriter& out) const {
+        const unsigned int count = this->getChildCount();
+        for (unsigned int i = 0; i < count; ++i)
+            if (const INodeCfg* child = this->getChild(i)) child->writeXml(out);
+    }
+
+private:
+    INodeCfg* parent_;
+    mutable std::wstring xmlText_;
+};
+
+}  // namespace kaz::kazparser

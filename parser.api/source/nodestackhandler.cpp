@@ -1,0 +1,34 @@
+#include "nodestackhandler.h"
+
+namespace kaz::kazparser {
+
+NodeStackHandler::~NodeStackHandler() {
+    // Each open element's node owns the children that were attached to it.
+    for (INodeCfg* node : stack_) delete node;
+    delete finishedRoot_;
+}
+
+INodeCfg* NodeStackHandler::pop() {
+    INodeCfg* node = stack_.back();
+    stack_.pop_back();
+    lastEnded_ = node;
+    if (stack_.empty()) finishedRoot_ = node;
+    return node;
+}
+
+INodeCfg* NodeStackHandler::takeRoot() {
+    INodeCfg* root = finishedRoot_;
+    if (root == lastEnded_) lastEnded_ = nullptr;
+    finishedRoot_ = nullptr;
+    return root;
+}
+
+INodeCfg* NodeStackHandler::takeLastEnded() {
+    if (lastEnded_ == nullptr) return nullptr;
+    if (lastEnded_ == finishedRoot_) return takeRoot();
+    INodeCfg* copy = lastEnded_->clone();
+    copy->setParent(parent_);
+    return copy;
+}
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <deque>
+
+#include "kazparser/INodeCfg.h"
+#include "kazxml/SAX.h"
+
+namespace kaz::kazparser {
+
+// What the tree builders share: the stack of open elements' nodes, the node
+// of the element that ended last, and who owns which node while a parse
+// runs. Whatever the handler still owns when it is destroyed is freed, so
+// that no parse, finished or failed, leaks a node.
+class NodeStackHandler : public kaz::xml::ISAXContentHandler {
+public:
+    explicit NodeStackHandler(INodeCfg* parent) : parent_(parent) {}
+    ~NodeStackHandler() override;
+    NodeStackHandler(const NodeStackHandler&) = delete;
+    NodeStackHandler& operator=(const NodeStackHandler&) = delete;
+
+    long putDocumentLocator(kaz::xml::ISAXLocator*) override { return kaz::xml::S_OK; }
+    long startDocument() override { return kaz::xml::S_OK; }
+    long endDocument() override { return kaz::xml::S_OK; }
+    long startPrefixMapping(const wchar_t*, int, const wchar_t*, int) override {
+        return kaz::xml::S_OK;
+    }
+    long endPrefixMapping(const wchar_t*, int) override { return kaz::xml::S_OK; }
+    long ignorableWhitespace(const wchar_t*, int) override { return kaz::xml::S_OK; }
+    long processingInstruction(const wchar_t*, int, const wchar_t*, int) override {
+        return kaz::xml::S_OK;
+    }
+    long skippedEntity(const wchar_t*, int) override { return kaz::xml::S_OK; }
+
+    // The node of the document element once it ended, handed to the caller;
+    // null before.
+    INodeCfg* takeRoot();
+    // The node of the element that ended last: the finished root itself, or
+    // a copy (with the factory's parent) of a node still held by an
+    // unfinished tree; null when no element ended.
+    INodeCfg* takeLastEnded();
+
+protected:
+    INodeCfg* factoryParent() const { return parent_; }
+    INodeCfg* top() const { return stack_.empty() ? nullptr : stack_.back(); }
+    // The parent of the next element's node.
+    INodeCfg* nextParent() const { return stack_.empty() ? parent_ : stack_.back(); }
+    bool hasOpenElements() const { return !stack_.empty(); }
+    void push(INodeCfg* node) { stack_.push_back(node); }
+    // Takes the top node off the stack and records it as the last ended.
+    // When no element remains open it is the finished root, owned here;
+    // otherwise the caller must hand it to the new top (or keep it).
+    INodeCfg* pop();
+
+private:
+    INodeCfg* parent_;
+    std::deque<INodeCfg*> stack_;
+    INodeCfg* lastEnded_ = nullptr;
+    INodeCfg* finishedRoot_ = nullptr;
+};
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,46 @@
+#include "saxattributes.h"
+
+#include "kazxml/PlatformError.h"
+
+namespace kaz::kazparser {
+namespace {
+
+void check(long result, const wchar_t* operation) {
+    if (kaz::xml::failed(result))
+        throw kaz::xml::PlatformError(result, std::wstring(L"ISAXAttributes::") + operation + L" failed",
+                                      L"kaz::xml::ISAXAttributes");
+}
+
+}  // namespace
+
+int attributeCount(kaz::xml::ISAXAttributes& attributes) {
+    int length = 0;
+    check(attributes.getLength(&length), L"getLength");
+    return length;
+}
+
+std::wstring attributeQName(kaz::xml::ISAXAttributes& attributes, int index) {
+    const wchar_t* name = nullptr;
+    int length = 0;
+    check(attributes.getQName(index, &name, &length), L"getQName");
+    return std::wstring(name, static_cast<std::size_t>(length));
+}
+
+std::wstring attributeValue(kaz::xml::ISAXAttributes& attributes, int index) {
+    const wchar_t* value = nullptr;
+    int length = 0;
+    check(attributes.getValue(index, &value, &length), L"getValue");
+    return std::wstring(value, static_cast<std::size_t>(length));
+}
+
+AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes) {
+    AttributeList list;
+    if (attributes == nullptr) return list;
+    const int count = attributeCount(*attributes);
+    list.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        list.emplace_back(attributeQName(*attributes, i), attributeValue(*attributes, i));
+    return list;
+}
+
+}  // namespace kaz::kazparser

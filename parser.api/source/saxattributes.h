@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "kazxml/SAX.h"
+
+namespace kaz::kazparser {
+
+using AttributeList = std::vector<std::pair<std::wstring, std::wstring>>;
+
+// Reading an element's attributes. A failing call raises the
+// kaz::xml::PlatformError of that call.
+int attributeCount(kaz::xml::ISAXAttributes& attributes);
+std::wstring attributeQName(kaz::xml::ISAXAttributes& attributes, int index);
+std::wstring attributeValue(kaz::xml::ISAXAttributes& attributes, int index);
+// Every (qualified name, value) pair in document order; none for null.
+AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes);
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,47 @@
+#include "xparsercontenthandlerimpl.h"
+
+#include <memory>
+#include <string>
+
+#include "nodeerrors.h"
+#include "xnodecfgimpl.h"
+
+namespace kaz::kazparser {
+namespace {
+constexpr const wchar_t* kClassName = L"kaz::kazparser::XParserContentHandlerImpl";
+}
+
+long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*, int,
+                                             const wchar_t* qName, int qNameLength,
+                                             kaz::xml::ISAXAttributes* attributes) {
+    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
+    std::unique_ptr<INodeCfg> node(new XNodeCfgImpl(name, attributes, nextParent()));
+    push(node.get());
+    node.release();
+    return kaz::xml::S_OK;
+}
+
+long XParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
+                                           const wchar_t* qName, int qNameLength) {
+    INodeCfg* child = pop();
+    if (auto* generic = dynamic_cast<XNodeCfgImpl*>(child)) generic->endOfElement();
+    if (!hasOpenElements()) return kaz::xml::S_OK;
+    std::unique_ptr<INodeCfg> refused(child);
+    if (top()->setChild(child)) {
+        refused.release();
+        return kaz::xml::S_OK;
+    }
+    errors::parsing(L"Syntax error at :'<" + std::wstring(qName, static_cast<std::size_t>(qNameLength)) +
+                        L">'",
+                    KAZ_HERE(kClassName, L"endElement"));
+}
+
+long XParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
+    const std::wstring text(chars, static_cast<std::size_t>(length));
+    auto* node = dynamic_cast<IXNodeCfg*>(top());
+    if (node == nullptr) errors::parsing(L"Configure invalid at '" + text + L"'", KAZ_HERE(kClassName, L"characters"));
+    node->appendText(text);
+    return kaz::xml::S_OK;
+}
+
+}  // namespace kaz::kazparser

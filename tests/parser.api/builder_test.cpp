@@ -1,0 +1,169 @@
+// The tree builder behind createNodeCfg: dispatch, error chain, shown
+// platform errors with partial results, security limits, the root-directory
+// macro, and freeing on every path.
+
+#include <new>
+
+#include "environmentadapter/IEnvironmentAdapter.h"
+#include "testsupport.h"
+
+namespace {
+
+using namespace kaztest;
+using kaz::kazparser::IXNodeCfg;
+using kaz::kazparser::KAZConfigFactory;
+
+NodePtr<> build(const std::wstring& text, INodeCfg* parent = nullptr) {
+    return NodePtr<>(KAZConfigFactory::createNodeCfg(&text, parent));
+}
+
+std::wstring nested(int depth) {
+    std::wstring text;
+    for (int i = 0; i < depth; ++i) text += L"<e>";
+    for (int i = 0; i < depth; ++i) text += L"</e>";
+    return text;
+}
+
+class BuilderTest : public LeakCheckedTest {};
+
+TEST_F(BuilderTest, NullOrEmptyTextGivesNull) {
+    EXPECT_EQ(KAZConfigFactory::createNodeCfg(nullptr, nullptr), nullptr);
+    const std::wstring empty;
+    EXPECT_EQ(KAZConfigFactory::createNodeCfg(&empty, nullptr), nullptr);
+}
+
+TEST_F(BuilderTest, ElementsOfNoKnownKindBecomeGenericNodes) {
+    auto holder = build(L"<holder/>");
+    auto root = build(L"<Root a=\"1\"><Child b=\"2\"><Leaf/></Child><Other/></Root>", holder.get());
+    ASSERT_NE(root, nullptr);
+    EXPECT_EQ(root->getNodeType(), INodeCfg::XNode);
+    EXPECT_EQ(root->getParent(), holder.get());
+    ASSERT_EQ(root->getChildCount(), 2u);
+    EXPECT_EQ(root->getChild(0)->getParent(), root.get());
+    EXPECT_EQ(root->getChild(0)->getChild(0)->getNodeType(), INodeCfg::XNode);
+    EXPECT_EQ(root->toXml(), L"<Root a=\"1\"><Child b=\"2\"><Leaf></Leaf></Child><Other></Other></Root>");
+}
+
+TEST_F(BuilderTest, ElementsThatMakeNoNodeEndInTheThreeLevelChain) {
+    const std::wstring text = L"<Root><Tables><x/></Tables><Column/></Root>";
+    const auto chain = thrownChain([&] { build(text); });
+    ASSERT_EQ(chain.size(), 3u);
+    for (const auto& level : chain) {
+        EXPECT_EQ(level.kind, IKAZException::Parsing);
+        EXPECT_EQ(methodOf(level.context), L"kaz::kazparser::KAZConfigFactory::createNodeCfg");
+        EXPECT_NE(level.context.find(L"\t[file] "), std::wstring::npos);
+        EXPECT_NE(level.context.find(L"\n\t[line] "), std::wstring::npos);
+    }
+    EXPECT_EQ(chain[0].message, L"Configure invalid at 'createNodeCfg'");
+    EXPECT_EQ(chain[1].message, L"Syntax error at :'Error on createNodeCfg :\n'");
+    EXPECT_EQ(chain[2].message,
+              L"Syntax error at :'\nCan not create <Tables>\n\nCan not create <Column>\n'");
+}
+
+TEST_F(BuilderTest, MalformedTextIsShownAndGivesWhatEndedLast) {
+    struct Case {
+        const wchar_t* text;
+        const wchar_t* lastEnded;  // null: no element ended
+    };
+    const Case cases[] = {
+        {L"<a><b k=\"v\"><c/></b><d>", L"<b k=\"v\"><c></c></b>"},
+        {L"<a></b>", nullptr},
+        {L"<a/><b/>", L"<a></a>"},
+        {L"<a>&undefined;</a>", nullptr},
+    };
+    auto holder = build(L"<holder/>");
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.text)));
+        MessageCapture capture;
+        auto result = build(c.text, holder.get());
+        ASSERT_EQ(capture.messages().size(), 2u);
+        EXPECT_EQ(capture.messages()[0].first, L"ErrorMessage");
+        EXPECT_NE(capture.messages()[0].second.find(L"\nError : "), std::wstring::npos);
+        EXPECT_NE(capture.messages()[0].second.find(L"\nLine : 1\nCharacter : "), std::wstring::npos);
+        EXPECT_EQ(capture.messages()[1], std::make_pair(std::wstring(L"Source"),
+                                                        std::wstring(L"kaz::xml::SAXXMLReader")));
+        if (c.lastEnded == nullptr) {
+            EXPECT_EQ(result, nullptr);
+        } else {
+            ASSERT_NE(result, nullptr);
+            EXPECT_EQ(result->toXml(), c.lastEnded);
+            EXPECT_EQ(result->getParent(), holder.get());
+        }
+    }
+}
+
+TEST_F(BuilderTest, ShownErrorsListEveryReportInOrder) {
+    MessageCapture capture;
+    auto result = build(L"<a><x:b/><y:c/><d></a>");
+    ASSERT_EQ(capture.messages().size(), 2u);
+    const std::wstring& text = capture.messages()[0].second;
+    std::size_t reports = 0;
+    for (std::size_t at = text.find(L"\nError : "); at != std::wstring::npos;
+         at = text.find(L"\nError : ", at + 1))
+        ++reports;
+    EXPECT_EQ(reports, 3u) << testing::PrintToString(text);
+    EXPECT_LT(text.find(L"x"), text.find(L"y"));
+}
+
+TEST_F(BuilderTest, SecurityLimitsAreShownNotThrown) {
+    struct Case {
+        std::wstring text;
+        const wchar_t* reason;
+    };
+    const Case cases[] = {
+        {L"<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><a>&e;</a>",
+         L"document type declarations are not allowed"},
+        {nested(257), L"elements nested deeper than 256 levels"},
+        {nested(10000), L"elements nested deeper than 256 levels"},
+    };
+    for (const Case& c : cases) {
+        MessageCapture capture;
+        EXPECT_EQ(build(c.text), nullptr);
+        ASSERT_EQ(capture.messages().size(), 2u);
+        EXPECT_NE(capture.messages()[0].second.find(c.reason), std::wstring::npos);
+    }
+}
+
+TEST_F(BuilderTest, TwoHundredFiftySixLevelsLoad) {
+    auto root = build(nested(256));
+    ASSERT_NE(root, nullptr);
+    int depth = 1;
+    for (const INodeCfg* node = root.get(); node->getChildCount() == 1; node = node->getChild(0)) ++depth;
+    EXPECT_EQ(depth, 256);
+}
+
+TEST_F(BuilderTest, RootDirectoryMacroIsReplacedInAttributeValues) {
+    auto& environment = kaz::environmentadapter::IEnvironmentAdapter::getInstance();
+    environment.setRootDirectory(L"/opt/kaz");
+    auto root = build(L"<a p=\"[Kestrelon.RootDirectory]/x;[Kestrelon.RootDirectory]\" q=\"[Kestrelon.Root]\"/>");
+    environment.resetRootDirectory();
+    auto* node = dynamic_cast<IXNodeCfg*>(root.get());
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(node->getAttribute(L"p"), L"/opt/kaz/x;/opt/kaz");
+    EXPECT_EQ(node->getAttribute(L"q"), L"[Kestrelon.Root]");
+}
+
+TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
+    const std::wstring texts[] = {L"<r a=\"1\"><b><c/></b><d/></r>", L"<r><Tables/></r>",
+                                  L"<r><b></r>"};
+    MessageCapture quiet;
+    for (const std::wstring& text : texts) {
+        for (long allowed = 0;; ++allowed) {
+            const long live = MemObject::liveCount();
+            MemObject::failAfter(allowed);
+            bool failed = false;
+            try {
+                NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr));
+            } catch (const std::bad_alloc&) {
+                failed = true;
+            } catch (IKAZException* e) {
+                e->release();
+            }
+            MemObject::failAfter(-1);
+            ASSERT_EQ(MemObject::liveCount(), live) << "after " << allowed << " allocations";
+            if (!failed) break;
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,29 @@
+#include "testsupport.h"
+
+namespace kaztest {
+
+MessageCapture::MessageCapture()
+    : messages_(std::make_shared<std::vector<std::pair<std::wstring, std::wstring>>>()) {
+    auto sink = messages_;
+    previous_ = kaz::kazparser::KAZConfigFactory::setMessageHandler(
+        [sink](const std::wstring& text, const std::wstring& caption) {
+            sink->emplace_back(caption, text);
+        });
+}
+
+MessageCapture::~MessageCapture() { kaz::kazparser::KAZConfigFactory::setMessageHandler(previous_); }
+
+std::vector<ExceptionLevel> chainOf(IKAZException* e) {
+    std::vector<ExceptionLevel> chain;
+    for (; e != nullptr; e = e->getInnerException())
+        chain.push_back({e->getKind(), e->getMessage(), e->getContext()});
+    return chain;
+}
+
+std::wstring methodOf(const std::wstring& context) {
+    const std::wstring marker = L"\n\t[method] ";
+    const std::size_t at = context.find(marker);
+    return at == std::wstring::npos ? std::wstring() : context.substr(at + marker.size());
+}
+
+}  // namespace kaztest

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "kazparser.h"
+
+namespace kaztest {
+
+using kaz::kazparser::INodeCfg;
+using kazexception::IKAZException;
+
+// Fails the test when it leaves objects alive that it did not start with.
+class LeakCheckedTest : public ::testing::Test {
+protected:
+    void SetUp() override { liveAtStart_ = MemObject::liveCount(); }
+    void TearDown() override {
+        MemObject::failAfter(-1);
+        EXPECT_EQ(MemObject::liveCount(), liveAtStart_) << "objects leaked";
+    }
+
+private:
+    long liveAtStart_ = 0;
+};
+
+// Deletes a node at the end of scope.
+struct NodeDeleter {
+    void operator()(INodeCfg* node) const { delete node; }
+};
+template <class T = INodeCfg>
+using NodePtr = std::unique_ptr<T, NodeDeleter>;
+
+// Collects the messages the library shows while it lives.
+class MessageCapture {
+public:
+    MessageCapture();
+    ~MessageCapture();
+    // (caption, text) pairs in the order shown.
+    const std::vector<std::pair<std::wstring, std::wstring>>& messages() const { return *messages_; }
+
+private:
+    std::shared_ptr<std::vector<std::pair<std::wstring, std::wstring>>> messages_;
+    kaz::kazparser::KAZConfigFactory::MessageHandler previous_;
+};
+
+// What an IKAZException said, level by level (outermost first).
+struct ExceptionLevel {
+    IKAZException::Kind kind;
+    std::wstring message;
+    std::wstring context;
+};
+std::vector<ExceptionLevel> chainOf(IKAZException* e);
+
+// Runs `action`, which must throw IKAZException*; answers its chain and
+// releases it. An empty chain means nothing was thrown.
+template <class Action>
+std::vector<ExceptionLevel> thrownChain(Action&& action) {
+    try {
+        action();
+    } catch (IKAZException* e) {
+        std::vector<ExceptionLevel> chain = chainOf(e);
+        e->release();
+        return chain;
+    }
+    return {};
+}
+
+// The method named by a context text ("...\n\t[method] <name>").
+std::wstring methodOf(const std::wstring& context);
+
+}  // namespace kaztest

@@ -1,0 +1,179 @@
+// The generic node: the collection contract, attributes, text, values and writing.
+
+#include <functional>
+
+#include "testsupport.h"
+
+namespace {
+
+using namespace kaztest;
+using kaz::kazparser::IXNodeCfg;
+using kaz::kazparser::KAZConfigFactory;
+
+NodePtr<IXNodeCfg> parseGeneric(const std::wstring& text, INodeCfg* parent = nullptr) {
+    return NodePtr<IXNodeCfg>(KAZConfigFactory::createXNodeCfg(&text, parent));
+}
+
+class XNodeTest : public LeakCheckedTest {};
+
+struct CollectionError {
+    const char* label;
+    std::function<void(IXNodeCfg&, INodeCfg*)> call;
+    IKAZException::Kind kind;
+    std::wstring message;
+    std::wstring method;
+};
+
+TEST_F(XNodeTest, RefusedCollectionCallsNameTheOperationAndChangeNothing) {
+    const std::wstring prefix = L"kaz::kazparser::XNodeCfgImpl::";
+    const std::vector<CollectionError> cases = {
+        {"getChild past end", [](IXNodeCfg& n, INodeCfg*) { n.getChild(3); },
+         IKAZException::OutOfRange, L"index 3 is out of range", L"getChild"},
+        {"operator[] past end", [](IXNodeCfg& n, INodeCfg*) { n[3]; }, IKAZException::OutOfRange,
+         L"index 3 is out of range", L"getChild"},
+        {"insert at the end", [](IXNodeCfg& n, INodeCfg* item) { n.insert(item, 3); },
+         IKAZException::OutOfRange, L"index 3 is out of range", L"insert"},
+        {"insert null with bad index", [](IXNodeCfg& n, INodeCfg*) { n.insert(nullptr, 99); },
+         IKAZException::InvalidData, L"Invalid argument", L"insert"},
+        {"append null", [](IXNodeCfg& n, INodeCfg*) { n.append(nullptr); },
+         IKAZException::InvalidData, L"Invalid argument", L"append"},
+        {"replace null with bad index", [](IXNodeCfg& n, INodeCfg*) { n.replace(nullptr, 99); },
+         IKAZException::InvalidData, L"Invalid argument", L"replace"},
+        {"replace past end", [](IXNodeCfg& n, INodeCfg* item) { n.replace(item, 3); },
+         IKAZException::OutOfRange, L"index 3 is out of range", L"replace"},
+        {"remove past end", [](IXNodeCfg& n, INodeCfg*) { n.remove(4294967295u); },
+         IKAZException::OutOfRange, L"index 4294967295 is out of range", L"remove"},
+    };
+    auto list = parseGeneric(L"<r><a/><b/><c/></r>");
+    const std::wstring before = list->toXml();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.label);
+        NodePtr<IXNodeCfg> item = parseGeneric(L"<x/>");
+        const auto chain = thrownChain([&] { c.call(*list, item.get()); });
+        ASSERT_EQ(chain.size(), 1u);
+        EXPECT_EQ(chain[0].kind, c.kind);
+        EXPECT_EQ(chain[0].message, c.message);
+        EXPECT_EQ(methodOf(chain[0].context), prefix + c.method);
+        EXPECT_EQ(item->getParent(), nullptr);
+        EXPECT_EQ(list->toXml(), before);
+    }
+}
+
+TEST_F(XNodeTest, InsertNeedsAnExistingPositionEvenOnAnEmptyList) {
+    auto list = parseGeneric(L"<r/>");
+    auto item = parseGeneric(L"<x/>");
+    const auto chain = thrownChain([&] { list->insert(item.get(), 0); });
+    ASSERT_EQ(chain.size(), 1u);
+    EXPECT_EQ(chain[0].message, L"index 0 is out of range");
+    EXPECT_EQ(list->append(item.release()), 1u);
+}
+
+TEST_F(XNodeTest, ListOperationsKeepOrderAndHandBackDetachedItems) {
+    auto list = parseGeneric(L"<r><a/><b/><c/></r>");
+    EXPECT_EQ(list->getCount(), 3u);
+    EXPECT_EQ(list->getChildCount(), 3u);
+
+    EXPECT_EQ(list->insert(parseGeneric(L"<x/>").release(), 1), 1u);
+    EXPECT_EQ(list->getChild(1)->getParent(), list.get());
+    EXPECT_EQ(list->toXml(), L"<r><a></a><x></x><b></b><c></c></r>");
+
+    NodePtr<> removed(list->remove(0));
+    EXPECT_EQ(removed->getName(), L"a");
+    EXPECT_EQ(removed->getParent(), nullptr);
+    EXPECT_EQ((*list)[0]->getName(), L"x");
+
+    NodePtr<> replaced(list->replace(parseGeneric(L"<y/>").release(), 2));
+    EXPECT_EQ(replaced->getName(), L"c");
+    EXPECT_EQ(replaced->getParent(), nullptr);
+    EXPECT_EQ(list->getChild(2)->getParent(), list.get());
+    EXPECT_TRUE(list->setChild(parseGeneric(L"<z/>").release()));
+    EXPECT_EQ(list->toXml(), L"<r><x></x><b></b><y></y><z></z></r>");
+
+    const long live = MemObject::liveCount();
+    list->deleteChildren();
+    EXPECT_EQ(list->getCount(), 0u);
+    EXPECT_EQ(MemObject::liveCount(), live - 4);
+}
+
+TEST_F(XNodeTest, CloneIsDeepAndKeepsTheSourceParent) {
+    auto holder = parseGeneric(L"<holder/>");
+    auto source = parseGeneric(L"<r k=\"v\">t<a><b/></a></r>", holder.get());
+    NodePtr<IXNodeCfg> copy(dynamic_cast<IXNodeCfg*>(source->clone()));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->getParent(), holder.get());
+    EXPECT_EQ(copy->getChild(0)->getParent(), copy.get());
+    EXPECT_EQ(copy->getChild(0)->getChild(0)->getParent(), copy->getChild(0));
+    EXPECT_EQ(copy->toXml(), source->toXml());
+    copy->setAttribute(L"k", L"changed");
+    dynamic_cast<IXNodeCfg*>(copy->getChild(0))->setText(L"new");
+    EXPECT_EQ(source->toXml(), L"<r k=\"v\">t<a><b></b></a></r>");
+}
+
+TEST_F(XNodeTest, AttributesByPositionAndName) {
+    auto node = parseGeneric(L"<r a=\"1\" b=\"2\"/>");
+    EXPECT_EQ(node->getAttributeCount(), 2u);
+    EXPECT_EQ(node->getAttributeName(1), L"b");
+    EXPECT_EQ(node->getAttribute(0u), L"1");
+    EXPECT_EQ(node->getAttribute(L"b"), L"2");
+    node->setAttribute(0u, L"one");
+    node->setAttribute(L"b", L"two");
+    node->setAttribute(L"c", L"three");
+    node->setAttributeName(0, L"first");
+    EXPECT_TRUE(node->hasAttribute(L"first"));
+    EXPECT_FALSE(node->hasAttribute(L"a"));
+    EXPECT_EQ(node->toXml(), L"<r first=\"one\" b=\"two\" c=\"three\"></r>");
+
+    const auto byName = thrownChain([&] { node->getAttribute(L"zz"); });
+    ASSERT_EQ(byName.size(), 1u);
+    EXPECT_EQ(byName[0].kind, IKAZException::OutOfRange);
+    EXPECT_EQ(byName[0].message, L"zz is not the name of child object");
+    const auto byIndex = thrownChain([&] { node->setAttribute(3u, L"x"); });
+    ASSERT_EQ(byIndex.size(), 1u);
+    EXPECT_EQ(byIndex[0].message, L"index 3 is out of range");
+    EXPECT_EQ(methodOf(byIndex[0].context), L"kaz::kazparser::XNodeCfgImpl::setAttribute");
+}
+
+TEST_F(XNodeTest, WritesEscapedAttributesAndTextWithStartAndEndTags) {
+    auto node = parseGeneric(L"<r q='say \"hi\" &amp; it&apos;s'>a &lt; b &gt; c &amp; R&amp;D</r>");
+    EXPECT_EQ(node->getText(), L"a < b > c & R&D");
+    EXPECT_EQ(node->toXml(),
+              L"<r q=\"say &quot;hi&quot; &amp; it's\">a &lt; b &gt; c &amp; R&amp;D</r>");
+    node->setName(L"");
+    node->setText(L"");
+    EXPECT_EQ(node->toXml(), L"<XNode q=\"say &quot;hi&quot; &amp; it's\"></XNode>");
+
+    std::wstring streamed;
+    tableobj::StringXmlWriter out(streamed);
+    EXPECT_TRUE(node->writeXml(out));
+    EXPECT_EQ(streamed, node->toXml());
+}
+
+TEST_F(XNodeTest, ChildValuesAreReadFromTheLastChildOfThatName) {
+    auto node = parseGeneric(
+        L"<r><n>1</n><n> 42 </n><d>2.5e1</d><b>true</b><f>0</f><s> text </s><bad>4x</bad></r>");
+    int number = 0;
+    node->getChildValue(L"n", number);
+    EXPECT_EQ(number, 42);
+    double real = 0;
+    node->getChildValue(L"d", real);
+    EXPECT_EQ(real, 25.0);
+    bool flag = false;
+    node->getChildValue(L"b", flag);
+    EXPECT_TRUE(flag);
+    node->getChildValue(L"f", flag);
+    EXPECT_FALSE(flag);
+    std::wstring text;
+    node->getChildValue(L"s", text);
+    EXPECT_EQ(text, L" text ");
+
+    const auto unreadable = thrownChain([&] { node->getChildValue(L"bad", number); });
+    ASSERT_EQ(unreadable.size(), 1u);
+    EXPECT_EQ(unreadable[0].kind, IKAZException::Parsing);
+    EXPECT_EQ(unreadable[0].message.rfind(L"Syntax error at : '", 0), 0u);
+    EXPECT_EQ(number, 42);
+    const auto missing = thrownChain([&] { node->getChildValue(L"none", real); });
+    ASSERT_EQ(missing.size(), 1u);
+    EXPECT_EQ(missing[0].message, L"none is not the name of child object");
+}
+
+}  // namespace
