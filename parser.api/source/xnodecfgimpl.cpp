@@ -7,6 +7,40 @@
 #include "kazparser/XmlEscaping.h"
 
 namespace kaz::kazparser {
+namespace {
+
+// Characters that a reader would normalise are written as character
+// references, so that what is written reads back to the same text.
+void protectWhitespace(std::wstring& text, bool inAttribute) {
+    std::wstring out;
+    out.reserve(text.size());
+    for (wchar_t c : text) {
+        if (c == L'\r') {
+            out += L"&#13;";
+        } else if (inAttribute && c == L'\n') {
+            out += L"&#10;";
+        } else if (inAttribute && c == L'\t') {
+            out += L"&#9;";
+        } else {
+            out += c;
+        }
+    }
+    text.swap(out);
+}
+
+std::wstring attributeText(std::wstring value) {
+    escapeAttribute(value);
+    protectWhitespace(value, true);
+    return value;
+}
+
+std::wstring elementText(std::wstring text) {
+    escapeText(text);
+    protectWhitespace(text, false);
+    return text;
+}
+
+}  // namespace
 
 XNodeCfgImpl::XNodeCfgImpl(INodeCfg* parent) : NodeCollection(parent) {}
 
@@ -24,17 +58,9 @@ INodeCfg* XNodeCfgImpl::clone() const { return new XNodeCfgImpl(*this); }
 bool XNodeCfgImpl::writeXml(IXmlWriter& out) const {
     const std::wstring& name = getName();
     StartTag tag(name);
-    for (const auto& [attributeName, value] : attributes_) {
-        std::wstring escaped = value;
-        escapeAttribute(escaped);
-        tag.always(attributeName, escaped);
-    }
+    for (const auto& [attributeName, value] : attributes_) tag.always(attributeName, attributeText(value));
     out.write(tag.str());
-    if (!text_.empty()) {
-        std::wstring escaped = text_;
-        escapeText(escaped);
-        out.write(std::move(escaped));
-    }
+    if (!text_.empty()) out.write(elementText(text_));
     writeChildren(out);
     return out.write(endTag(name));
 }

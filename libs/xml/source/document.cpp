@@ -24,34 +24,38 @@ struct LoadState {
         return *static_cast<LoadState*>(static_cast<xmlParserCtxtPtr>(ctx)->_private);
     }
 
-    // Never throws: it runs inside libxml2's C frames.
-    void record(long code, int line, int column, const xmlChar* message) noexcept {
-        if (failed) return;
+    // These never throw: they run inside libxml2's C frames. A message that
+    // cannot be allocated is left out.
+    bool begin(long code, int line, int column) noexcept {
+        if (failed) return false;
         failed = true;
         failure.code = code;
         failure.line = line;
         failure.column = column;
+        return true;
+    }
+
+    void record(const xmlError& error) noexcept {
+        if (!begin(XML_E_PARSE_BASE + error.code, error.line, error.int2)) return;
         try {
-            failure.message = detail::toWide(message);
-            while (!failure.message.empty() && failure.message.back() == L'\n')
-                failure.message.pop_back();
+            failure.message = detail::reportFrom(error).message;
         } catch (...) {
-            failure.message.clear();
         }
     }
 
-    void refuse(xmlParserCtxtPtr ctxt, long code, const char* message) noexcept {
-        record(code, detail::currentLine(ctxt), detail::currentColumn(ctxt), BAD_CAST message);
+    void refuse(xmlParserCtxtPtr ctxt, long code) noexcept {
+        if (begin(code, detail::currentLine(ctxt), detail::currentColumn(ctxt))) {
+            try {
+                failure.message = detail::refusalAt(ctxt, code).message;
+            } catch (...) {
+            }
+        }
         xmlStopParser(ctxt);
     }
 };
 
-constexpr char kDoctypeRefused[] = "document type declarations are not allowed";
-constexpr char kTooDeep[] = "elements nested deeper than 256 levels";
-
 void onInternalSubset(void* ctx, const xmlChar*, const xmlChar*, const xmlChar*) {
-    LoadState::of(ctx).refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_DTD_PROHIBITED,
-                              kDoctypeRefused);
+    LoadState::of(ctx).refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_DTD_PROHIBITED);
 }
 
 void onStartElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
@@ -59,7 +63,7 @@ void onStartElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, 
                     int defaultedCount, const xmlChar** attributes) {
     LoadState& state = LoadState::of(ctx);
     if (++state.depth > SAXXMLReader::kMaxDepth)
-        return state.refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_TOO_DEEP, kTooDeep);
+        return state.refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_TOO_DEEP);
     xmlSAX2StartElementNs(ctx, localName, prefix, uri, namespaceCount, namespaces, attributeCount,
                           defaultedCount, attributes);
 }
@@ -71,8 +75,7 @@ void onEndElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, co
 
 void onError(void* ctx, xmlErrorPtr error) {
     if (error == nullptr || error->level != XML_ERR_FATAL) return;
-    LoadState::of(ctx).record(XML_E_PARSE_BASE + error->code, error->line, error->int2,
-                              BAD_CAST error->message);
+    LoadState::of(ctx).record(*error);
 }
 
 // libxml2's tree builder, minus everything that touches a DTD or an entity
@@ -117,11 +120,8 @@ std::shared_ptr<const detail::DocumentTree> load(const std::string& utf8, LoadSt
         return std::make_shared<const detail::DocumentTree>(doc);
     }
     xmlFreeDoc(doc);
-    if (!state.failed) {  // a failure that did not reach us as a fatal error
-        const xmlError& last = ctxt->lastError;
-        state.record(XML_E_PARSE_BASE + (last.code != 0 ? last.code : ctxt->errNo), last.line,
-                     last.int2, BAD_CAST last.message);
-    }
+    // A failure that did not reach us as a fatal error.
+    if (!state.failed) state.record(ctxt->lastError);
     return nullptr;
 }
 
@@ -133,6 +133,12 @@ struct Document::Impl {
 
     detail::Owner owner() const { return {tree, nullptr}; }
     xmlNodePtr root() const { return reinterpret_cast<xmlNodePtr>(tree->doc); }
+
+    // Without a document the expression is still checked.
+    std::vector<IXMLDOMNodePtr> select(const std::wstring& xpath, std::size_t limit) const {
+        if (!tree) return detail::select({}, nullptr, nullptr, xpath, limit);
+        return detail::select(owner(), tree->doc, root(), xpath, limit);
+    }
 };
 
 Document::Document() : impl_(std::make_shared<Impl>()) {}
@@ -160,12 +166,12 @@ IXMLDOMNodePtr Document::documentElement() const {
 }
 
 IXMLDOMNodePtr Document::selectSingleNode(const std::wstring& xpath) const {
-    std::vector<IXMLDOMNodePtr> nodes = selectNodesUpTo(xpath, 1);
+    std::vector<IXMLDOMNodePtr> nodes = impl_->select(xpath, 1);
     return nodes.empty() ? nullptr : nodes.front();
 }
 
 std::vector<IXMLDOMNodePtr> Document::selectNodes(const std::wstring& xpath) const {
-    return selectNodesUpTo(xpath, SIZE_MAX);
+    return impl_->select(xpath, SIZE_MAX);
 }
 
 std::wstring Document::xml() const {

@@ -12,6 +12,9 @@ namespace kaz::xml {
 // a length (not null-terminated) and stay valid only during the call.
 // Every operation answers a result code (Result.h).
 
+// The locator handed to putDocumentLocator answers the current position
+// during the parse (the position of the error during an error report); it is
+// valid until parse() returns.
 class KAZXML_API ISAXLocator {
 public:
     virtual long getColumnNumber(int* column) = 0;
