@@ -1,5 +1,8 @@
 #include "kazparser/KAZConfigFactory.h"
 
+#include <memory>
+#include <new>
+
 #include "kazparsercontenthandlerimpl.h"
 #include "kazparsererrorhandlerimpl.h"
 #include "kazxml/PlatformError.h"
@@ -15,6 +18,15 @@ constexpr const wchar_t* kReaderSource = L"kaz::xml::SAXXMLReader";
 
 void check(long result, const wchar_t* what) {
     if (kaz::xml::failed(result)) throw kaz::xml::PlatformError(result, what, kReaderSource);
+}
+
+// The markup of a document or element, for the forms that read through
+// their text. A null handle raises E_POINTER.
+template <class Handle>
+std::wstring xmlOf(const Handle& handle) {
+    if (handle == nullptr)
+        throw kaz::xml::PlatformError(kaz::xml::E_POINTER, L"null document or node", kReaderSource);
+    return handle->xml();
 }
 
 // Parses `text`; a failed parse raises the reader's error.
@@ -85,6 +97,30 @@ IXNodeCfg* KAZConfigFactory::createXNodeCfg(const std::wstring* text, INodeCfg* 
         errors::parsing(L"Configure invalid at 'createXNodeCfg'", KAZ_HERE(kClassName, L"createXNodeCfg"),
                         e);
     }
+}
+
+template <class I, class Impl>
+I* KAZConfigFactory::createTyped(const std::wstring* text, INodeCfg* parent,
+                                 std::optional<INodeCfg::NodeType> expected) {
+    if (text == nullptr || text->empty()) return new (std::nothrow) Impl(parent);
+    std::unique_ptr<INodeCfg> node(expected ? createNodeCfg(text, parent, true, *expected)
+                                            : createNodeCfg(text, parent));
+    I* typed = dynamic_cast<I*>(node.get());
+    if (typed != nullptr) node.release();
+    return typed;
+}
+
+template <class I, class Impl>
+I* KAZConfigFactory::createFromElement(const std::wstring* text, INodeCfg* parent,
+                                       const std::wstring& element) {
+    IXMLDOMDocument2Ptr doc = createXMLDocument();
+    if (text != nullptr && !text->empty() && loadXMLContent(doc, text)) {
+        if (IXMLDOMNodePtr node = doc->selectSingleNode(L"//" + element)) {
+            const std::wstring markup = node->xml();
+            if (I* built = createTyped<I, Impl>(&markup, parent, std::nullopt)) return built;
+        }
+    }
+    return new Impl(parent);
 }
 
 KAZConfigFactory::MessageHandler KAZConfigFactory::setMessageHandler(MessageHandler handler) {

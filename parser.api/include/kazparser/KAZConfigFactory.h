@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "kazparser/INodeCfg.h"
@@ -46,6 +47,17 @@ private:
     static IXMLDOMDocument2Ptr createXMLDocument();
     static bool loadXMLContent(IXMLDOMDocument2Ptr doc, const std::wstring& text);
     static bool loadXMLContent(IXMLDOMDocument2Ptr doc, const std::wstring* text);
+
+    // The plain text form of a kind: an empty `Impl` for no text, else the
+    // builder's node (with `expected` as the root's kind) when it is an `I`.
+    template <class I, class Impl>
+    static I* createTyped(const std::wstring* text, INodeCfg* parent,
+                          std::optional<INodeCfg::NodeType> expected);
+    // The form that reads through the document: the builder's node for the
+    // first element named `element`; an empty `Impl` when there is none.
+    template <class I, class Impl>
+    static I* createFromElement(const std::wstring* text, INodeCfg* parent,
+                                const std::wstring& element);
 
     friend class KAZParserContentHandlerImpl;
 };

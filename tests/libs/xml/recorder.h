@@ -6,7 +6,7 @@
 
 #include "kazxml/SAX.h"
 
-namespace kaz::xml::testing {
+namespace kaz::xml::test {
 
 // `levels` elements nested inside one another.
 inline std::wstring nested(int levels) {
@@ -26,6 +26,8 @@ public:
     ISAXLocator* locator = nullptr;
     // Runs before each recorded event; what it answers is the event's answer.
     std::function<long(const std::wstring& event)> react = [](const std::wstring&) { return S_OK; };
+    // Sees the attributes of each start tag.
+    std::function<void(ISAXAttributes& attributes)> inspect = [](ISAXAttributes&) {};
 
     long putDocumentLocator(ISAXLocator* given) override {
         ++locatorCalls;
@@ -46,6 +48,7 @@ public:
                       ISAXAttributes* attributes) override {
         std::wstring event = L"start " + str(qName, qNameLength) + L" {" + str(uri, uriLength) +
                              L"}" + str(localName, localNameLength);
+        inspect(*attributes);
         int count = 0;
         attributes->getLength(&count);
         for (int i = 0; i < count; ++i) {
@@ -132,4 +135,4 @@ private:
     }
 };
 
-}  // namespace kaz::xml::testing
+}  // namespace kaz::xml::test

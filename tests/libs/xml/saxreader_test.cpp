@@ -9,7 +9,7 @@
 #include "recorder.h"
 
 using namespace kaz::xml;
-using namespace kaz::xml::testing;
+using namespace kaz::xml::test;
 using Events = std::vector<std::wstring>;
 
 namespace {
@@ -102,21 +102,222 @@ TEST_F(SAXReaderTest, AttributeValuesAreDecoded) {
 }
 
 TEST_F(SAXReaderTest, NamespaceDeclarationsComeFirstAsAttributes) {
-    const std::wstring text =
-        L"<p:e z=\"1\" xmlns:p=\"urn:p\" p:a=\"2\" xmlns=\"urn:d\" b=\"3\"><f/></p:e>";
-    ISAXAttributes* seen = nullptr;
-    std::vector<std::wstring> answers;
-    content.react = [&](const std::wstring& event) {
-        if (!event.starts_with(L"start p:e")) return S_OK;
-        auto text = [&](long result, const wchar_t* s, int n) {
-            answers.push_back(failed(result) ? L"failed" : std::wstring(s, n));
+    std::vector<std::wstring> names;  // uri|localName|qName|type of each attribute
+    std::vector<std::wstring> lookups;
+    content.inspect = [&](ISAXAttributes& a) {
+        if (!names.empty()) return;
+        int count = 0;
+        a.getLength(&count);
+        const wchar_t *uri, *local, *qName, *type, *value;
+        int uriLength, localLength, qNameLength, typeLength, valueLength, index = -1;
+        for (int i = 0; i < count; ++i) {
+            a.getName(i, &uri, &uriLength, &local, &localLength, &qName, &qNameLength);
+            a.getType(i, &type, &typeLength);
+            names.push_back(std::wstring(uri, uriLength) + L"|" + std::wstring(local, localLength) +
+                            L"|" + std::wstring(qName, qNameLength) + L"|" +
+                            std::wstring(type, typeLength));
+        }
+        auto value_ = [&](long result) {
+            lookups.push_back(failed(result) ? L"failed" : std::wstring(value, valueLength));
         };
-        seen = nullptr;
-        return S_OK;
+        a.getIndexFromName(L"urn:p", 5, L"a", 1, &index);
+        lookups.push_back(std::to_wstring(index));
+        a.getIndexFromQName(L"p:a", 3, &index);
+        lookups.push_back(std::to_wstring(index));
+        value_(a.getValueFromName(L"", 0, L"b", 1, &value, &valueLength));
+        value_(a.getValueFromQName(L"xmlns", 5, &value, &valueLength));
+        value_(a.getTypeFromQName(L"b", 1, &value, &valueLength));
+        EXPECT_EQ(a.getIndexFromQName(L"a", 1, &index), E_INVALIDARG);
+        EXPECT_EQ(a.getIndexFromName(L"", 0, L"a", 1, &index), E_INVALIDARG);
+        EXPECT_EQ(a.getValueFromQName(L"q", 1, &value, &valueLength), E_INVALIDARG);
+        EXPECT_EQ(a.getValue(count, &value, &valueLength), E_INVALIDARG);
+        EXPECT_EQ(a.getQName(-1, &value, &valueLength), E_INVALIDARG);
+        EXPECT_EQ(a.getURI(count, &value, &valueLength), E_INVALIDARG);
     };
-    (void)seen;
-    (void)text;
-    EXPECT_EQ(parse(text), S_OK);
+    ASSERT_EQ(parse(L"<p:e z=\"1\" xmlns:p=\"urn:p\" p:a=\"2\" xmlns=\"urn:d\" b=\"3\"><f/></p:e>"),
+              S_OK);
+    EXPECT_EQ(names, (Events{L"|p|xmlns:p|CDATA", L"|xmlns|xmlns|CDATA", L"|z|z|CDATA",
+                             L"urn:p|a|p:a|CDATA", L"|b|b|CDATA"}));
+    EXPECT_EQ(lookups, (Events{L"3", L"3", L"3", L"urn:d", L"CDATA"}));
+    EXPECT_EQ(content.all(),
+              (Events{L"startDocument", L"map p=urn:p", L"map =urn:d",
+                      L"start p:e {urn:p}e xmlns:p=urn:p xmlns=urn:d z=1 p:a=2 b=3",
+                      L"start f {urn:d}f", L"end f", L"end p:e", L"unmap p", L"unmap ",
+                      L"endDocument"}));
+}
+
+TEST_F(SAXReaderTest, DeclaredEncodingIsIgnored) {
+    const std::wstring body = L"<a v=\"\u00e9\u20ac\">\u00fc\u4e2d\U0001F600</a>";
+    for (const wchar_t* declared : {L"ISO-8859-1", L"UTF-16", L"windows-1252", L"x-unknown"}) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(declared)));
+        content.events.clear();
+        const std::wstring text =
+            std::wstring(L"\uFEFF<?xml version=\"1.0\" encoding=\"") + declared + L"\"?>" + body;
+        ASSERT_EQ(parse(text), S_OK) << reader.getErrorDescription();
+        EXPECT_EQ(content.all()[1], L"start a {}a v=\u00e9\u20ac");
+        EXPECT_EQ(content.all()[2], L"text \u00fc\u4e2d\U0001F600");
+    }
+}
+
+TEST_F(SAXReaderTest, DocumentTypeDeclarationsAreRefused) {
+    const wchar_t* cases[] = {
+        L"<?xml version=\"1.0\"?>\n<!DOCTYPE a [<!ENTITY x \"y\">]><a>&x;</a>",
+        L"<?xml version=\"1.0\"?>\n<!DOCTYPE a SYSTEM \"file:///etc/passwd\"><a/>",
+        L"<!-- -->\n<!DOCTYPE a [<!ENTITY a \"aaaa\"><!ENTITY b \"&a;&a;&a;\">]>\n<a>&b;</a>",
+    };
+    for (const wchar_t* text : cases) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(text)));
+        content.events.clear();
+        errors.reports.clear();
+        EXPECT_EQ(parse(text), XML_E_DTD_PROHIBITED);
+        ASSERT_EQ(errors.reports.size(), 1u);
+        const ErrorReport& report = errors.reports[0];
+        EXPECT_EQ(report.kind, L"fatal");
+        EXPECT_EQ(report.code, XML_E_DTD_PROHIBITED);
+        EXPECT_EQ(report.message, L"document type declarations are not allowed");
+        EXPECT_EQ(report.line, 2);
+        EXPECT_GT(report.column, 0);
+        EXPECT_EQ(reader.getErrorDescription(), L"line 2, column " +
+                                                    std::to_wstring(report.column) +
+                                                    L": document type declarations are not allowed");
+        EXPECT_EQ(content.all(), Events{L"startDocument"});
+    }
+}
+
+TEST_F(SAXReaderTest, NestingIsLimitedTo256Levels) {
+    struct Case {
+        int levels;
+        long result;
+    };
+    for (const Case& c : {Case{256, S_OK}, Case{257, XML_E_TOO_DEEP}, Case{10000, XML_E_TOO_DEEP}}) {
+        SCOPED_TRACE(c.levels);
+        errors.reports.clear();
+        content.events.clear();
+        EXPECT_EQ(parse(nested(c.levels)), c.result);
+        if (c.result == S_OK) {
+            EXPECT_TRUE(errors.reports.empty());
+            EXPECT_EQ(content.all().back(), L"endDocument");
+            continue;
+        }
+        ASSERT_EQ(errors.reports.size(), 1u);
+        EXPECT_EQ(errors.reports[0].code, XML_E_TOO_DEEP);
+        EXPECT_EQ(errors.reports[0].message, L"elements nested deeper than 256 levels");
+        EXPECT_EQ(errors.reports[0].column, 257 * 3);
+        EXPECT_EQ(content.all().size(), 257u);  // startDocument and 256 starts
+    }
+}
+
+TEST_F(SAXReaderTest, MalformedTextEndsWithOneFatalError) {
+    struct Case {
+        const wchar_t* text;
+        int line;
+    };
+    const Case cases[] = {
+        {L"<a>\n<b>\n</c></a>", 3}, {L"<a>", 1},          {L"", 1},
+        {L"  \n ", 1},             {L"<a x='1' x='2'/>", 1}, {L"<a>&undefined;</a>", 1},
+        {L"text", 1},              {L"<a/>\n<b/>", 2},     {L"<a>\u0001</a>", 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(c.text)));
+        content.events.clear();
+        errors.reports.clear();
+        const long result = parse(c.text);
+        EXPECT_TRUE(parseCode(result)) << std::hex << result;
+        ASSERT_EQ(errors.reports.size(), 1u);
+        const ErrorReport& report = errors.reports[0];
+        EXPECT_EQ(report.kind, L"fatal");
+        EXPECT_EQ(report.code, result);
+        EXPECT_EQ(report.line, c.line);
+        EXPECT_GT(report.column, 0);
+        EXPECT_FALSE(report.message.empty());
+        EXPECT_NE(report.message.back(), L'\n');
+        EXPECT_EQ(reader.getErrorDescription(),
+                  L"line " + std::to_wstring(report.line) + L", column " +
+                      std::to_wstring(report.column) + L": " + report.message);
+        for (const std::wstring& event : content.all()) EXPECT_NE(event, L"endDocument");
+    }
+}
+
+TEST_F(SAXReaderTest, RecoverableErrorsAccumulate) {
+    EXPECT_EQ(parse(L"<a xmlns=\"relative\"><x:b/>\n<y:c/></a>"), S_OK);
+    ASSERT_EQ(errors.reports.size(), 3u);
+    EXPECT_EQ(errors.reports[0].kind, L"warning");
+    EXPECT_EQ(errors.reports[1].kind, L"error");
+    EXPECT_EQ(errors.reports[2].kind, L"error");
+    EXPECT_EQ(errors.reports[2].line, 2);
+    EXPECT_EQ(errors.reports[1].code, errors.reports[2].code);
+    EXPECT_TRUE(parseCode(errors.reports[1].code));
+    EXPECT_NE(errors.reports[1].message.find(L"x"), std::wstring::npos);
+    EXPECT_EQ(content.all().back(), L"endDocument");
+    EXPECT_EQ(reader.getErrorDescription(), L"");
+}
+
+TEST_F(SAXReaderTest, AFailingHandlerStopsTheParse) {
+    const std::wstring text = L"<?p d?><a>t<b/></a>";
+    const Events full = {L"startDocument", L"pi p d", L"start a {}a", L"text",
+                         L"start b {}b",   L"end b",  L"end a",       L"endDocument"};
+    const long failure = static_cast<int>(0x80040001u);
+    for (std::size_t failAt = 0; failAt < full.size(); ++failAt) {
+        SCOPED_TRACE(full[failAt]);
+        Events seen;
+        content.react = [&](const std::wstring& event) {
+            seen.push_back(event);
+            return event == full[failAt] ? failure : S_OK;
+        };
+        EXPECT_EQ(parse(text), failure);
+        EXPECT_EQ(seen, Events(full.begin(), full.begin() + failAt + 1));
+        EXPECT_NE(reader.getErrorDescription().find(L"0x80040001"), std::wstring::npos);
+    }
+    content.react = [](const std::wstring&) { return S_OK; };
+    errors.answer = failure;  // a failing error handler stops it too
+    EXPECT_EQ(parse(L"<a><x:b/><y:c/></a>"), failure);
+    EXPECT_EQ(errors.reports.size(), 1u);
+}
+
+TEST_F(SAXReaderTest, HandlerExceptionsLeaveParse) {
+    using kazexception::IKAZException;
+    for (const wchar_t* at : {L"startDocument", L"start b {}b", L"text", L"endDocument"}) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(at)));
+        content.react = [&](const std::wstring& event) -> long {
+            if (event == at) throw kazexception::KAZExceptionFactory::createParsingException(
+                L"stop", L"here", nullptr);
+            return S_OK;
+        };
+        try {
+            parse(L"<a>x<b/></a>");
+            ADD_FAILURE() << "no exception";
+        } catch (IKAZException* e) {
+            kazexception::ExceptionGuard guard(e);
+            EXPECT_EQ(e->getMessage(), L"stop");
+        }
+    }
+    content.react = [](const std::wstring&) { return S_OK; };
+    errors.onFatal = [] { throw std::bad_alloc(); };
+    EXPECT_THROW(parse(L"<a>"), std::bad_alloc);
+    errors.onFatal = [] {};
+    EXPECT_EQ(parse(L"<a/>"), S_OK);  // the reader is still usable
+}
+
+TEST_F(SAXReaderTest, LargeTextsParse) {
+    std::wstring text = L"<r>";
+    const std::wstring item = L"<i n=\"\u00e9\">\u00e9\u20ac\U0001F600 text &amp; more</i>";
+    while (text.size() < 1'000'000) text += item;
+    const std::wstring longText(200'000, L'\u00e9');
+    text += L"<t>" + longText + L"</t></r>";
+    const std::size_t items = (text.size() - longText.size()) / item.size();
+    EXPECT_EQ(parse(text), S_OK) << reader.getErrorDescription();
+    const Events& events = content.all();
+    EXPECT_EQ(events.size(), 3 * items + 7);
+    EXPECT_EQ(events[events.size() - 4], L"text " + longText);
+    EXPECT_GT(content.textPieces, static_cast<int>(items) + 1);  // the long text came in pieces
+}
+
+TEST_F(SAXReaderTest, WorksWithoutHandlers) {
+    SAXXMLReader bare;
+    EXPECT_EQ(bare.parse(L"<a><b/>t</a>"), S_OK);
+    EXPECT_EQ(bare.parse(nested(300)), XML_E_TOO_DEEP);
+    EXPECT_NE(bare.getErrorDescription(), L"");
+    EXPECT_TRUE(parseCode(bare.parse(L"<a>")));
 }
 
 }  // namespace
