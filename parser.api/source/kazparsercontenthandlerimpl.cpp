@@ -1,11 +1,25 @@
 #include "kazparsercontenthandlerimpl.h"
 
 #include <memory>
+#include <type_traits>
 #include <unordered_map>
 
 #include "characterdata.h"
 #include "environmentadapter/IEnvironmentAdapter.h"
+#include "extparamcfgimpl.h"
+#include "extparamscfgimpl.h"
+#include "kazparser/KAZConfigFactory.h"
+#include "languagestringcfgimpl.h"
+#include "nodeerrors.h"
+#include "paramcfgimpl.h"
+#include "paramsetcfgimpl.h"
+#include "paramsetscfgimpl.h"
+#include "tablereader.h"
+#include "usedatacfgimpl.h"
+#include "userefdatacfgimpl.h"
+#include "xmltags.h"
 #include "xnodecfgimpl.h"
+#include "xvaluecfgimpl.h"
 
 namespace kaz::kazparser {
 namespace {
@@ -23,6 +37,35 @@ INodeCfg* makeXNode(const Element& element) {
     return new XNodeCfgImpl(element.name, &element.attributes, element.parent);
 }
 
+// Makes an `Impl` from as much of the element as its constructor reads:
+// name, attributes and parent; attributes and parent; or the parent alone.
+template <class Impl>
+INodeCfg* make(const Element& element) {
+    using Attributes = kaz::xml::ISAXAttributes*;
+    if constexpr (std::is_constructible_v<Impl, const std::wstring&, Attributes, INodeCfg*>) {
+        return new Impl(element.name, &element.attributes, element.parent);
+    } else if constexpr (std::is_constructible_v<Impl, Attributes, INodeCfg*>) {
+        return new Impl(&element.attributes, element.parent);
+    } else {
+        return new Impl(element.parent);
+    }
+}
+
+INodeCfg* makeUseRefData(const Element& element) {
+    return new UseRefDataCfgImpl(element.name, element.parent);
+}
+
+INodeCfg* makeUseData(const Element& element) {
+    return new UseDataCfgImpl(element.name, element.parent);
+}
+
+// Data values and references keep their element's content, nested
+// elements included, instead of making nodes of it.
+bool capturesContent(const INodeCfg* node) {
+    return dynamic_cast<const UseDataCfgImpl*>(node) != nullptr ||
+           dynamic_cast<const UseRefDataCfgImpl*>(node) != nullptr;
+}
+
 // Elements whose name decides their kind. A null maker: the element is
 // known but makes no node.
 const std::unordered_map<std::wstring, NodeMaker>& kindsByName() {
@@ -30,29 +73,29 @@ const std::unordered_map<std::wstring, NodeMaker>& kindsByName() {
         {L"PresentationGroup", nullptr},
         {L"InputConfig", nullptr},
         {L"PresentationElements", nullptr},
-        {L"XValue", nullptr},
+        {L"XValue", make<XValueCfgImpl>},
         {L"UseDataCollector", nullptr},
         {L"UseDataModifiers", nullptr},
         {L"UseRefPresentationElement", nullptr},
         {L"UseFixedPresentationElement", nullptr},
-        {L"ExtParams", nullptr},
-        {L"ExtParam", nullptr},
+        {L"ExtParams", make<ExtParamsCfgImpl>},
+        {L"ExtParam", make<ExtParamCfgImpl>},
         {L"PresentationElement", nullptr},
         {L"OutputConfig", nullptr},
         {L"UsePresenter", nullptr},
-        {L"ParamSets", nullptr},
-        {L"UseXValue", nullptr},
-        {L"UseData", nullptr},
+        {L"ParamSets", make<ParamSetsCfgImpl>},
+        {L"UseXValue", makeUseRefData},
+        {L"UseData", makeUseRefData},
         {L"UseExpression", nullptr},
         {L"UseEngine", nullptr},
-        {L"UseDouble", nullptr},
-        {L"UseString", nullptr},
-        {L"UseInteger", nullptr},
-        {L"UseBoolean", nullptr},
-        {L"UseLanguageString", nullptr},
-        {L"UseTables", nullptr},
-        {L"UseTable", nullptr},
-        {L"UseColumn", nullptr},
+        {L"UseDouble", makeUseData},
+        {L"UseString", makeUseData},
+        {L"UseInteger", makeUseData},
+        {L"UseBoolean", makeUseData},
+        {L"UseLanguageString", make<LanguageStringCfgImpl>},
+        {L"UseTables", makeUseData},
+        {L"UseTable", makeUseData},
+        {L"UseColumn", makeUseData},
         {L"Tables", nullptr},
         {L"Table", nullptr},
         {L"Properties", nullptr},
@@ -69,10 +112,28 @@ const std::unordered_map<std::wstring, NodeMaker>& kindsByName() {
 }
 
 // The kind created for the first element when the factory expects one.
-NodeMaker makerForExpectedKind(INodeCfg::NodeType) { return nullptr; }
+NodeMaker makerForExpectedKind(INodeCfg::NodeType kind) {
+    switch (kind) {
+        case INodeCfg::Param:
+            return make<ParamCfgImpl>;
+        case INodeCfg::ParamSet:
+            return make<ParamSetCfgImpl>;
+        default:
+            return nullptr;
+    }
+}
 
 // The kind of an element that its name does not decide, by its parent's kind.
-NodeMaker makerForParentKind(INodeCfg::NodeType, const std::wstring&) { return makeXNode; }
+NodeMaker makerForParentKind(INodeCfg::NodeType parentKind, const std::wstring&) {
+    switch (parentKind) {
+        case INodeCfg::ParamSets:
+            return make<ParamSetCfgImpl>;
+        case INodeCfg::ParamSet:
+            return make<ParamCfgImpl>;
+        default:
+            return makeXNode;
+    }
+}
 
 bool receivesCharacters(INodeCfg::NodeType kind) {
     return kind == INodeCfg::UseData || kind == INodeCfg::UseExpression ||
@@ -130,14 +191,21 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     }
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     madeNode_.push_back(false);
+    if (dataMode_) {
+        captured_.startElement(name, readAttributes(&copy));
+        return kaz::xml::S_OK;
+    }
     std::unique_ptr<INodeCfg> node(createNode(name, copy));
     if (node == nullptr) {
         addError(L"\nCan not create <" + name + L">\n");
         return kaz::xml::S_OK;
     }
     push(node.get());
-    node.release();
     madeNode_.back() = true;
+    if (capturesContent(node.release())) {
+        dataMode_ = true;
+        captured_.clear();
+    }
     return kaz::xml::S_OK;
 }
 
@@ -160,10 +228,15 @@ INodeCfg* KAZParserContentHandlerImpl::createNode(const std::wstring& name,
 
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength) {
+    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     const bool madeNode = madeNode_.back();
     madeNode_.pop_back();
-    if (!madeNode) return kaz::xml::S_OK;
-    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
+    if (!madeNode) {
+        if (dataMode_) captured_.endElement(name);
+        return kaz::xml::S_OK;
+    }
+    // In data mode the only element with a node is the data element itself.
+    if (dataMode_) finishCapture(name);
     INodeCfg* child = pop();
     if (hasOpenElements()) attachToParent(child, name);
     return kaz::xml::S_OK;
@@ -183,11 +256,53 @@ void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wst
 
 long KAZParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
     INodeCfg* node = top();
-    if (node == nullptr || !receivesCharacters(node->getNodeType())) return kaz::xml::S_OK;
+    if (!dataMode_ && (node == nullptr || !receivesCharacters(node->getNodeType())))
+        return kaz::xml::S_OK;
     std::wstring text(chars, static_cast<std::size_t>(length));
     replaceRootDirectory(text);
-    if (auto* receiver = dynamic_cast<CharacterDataReceiver*>(node)) receiver->appendCharacters(text);
+    if (dataMode_) {
+        captured_.characters(text);
+    } else if (auto* receiver = dynamic_cast<CharacterDataReceiver*>(node)) {
+        receiver->appendCharacters(text);
+    }
     return kaz::xml::S_OK;
+}
+
+void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {
+    dataMode_ = false;
+    INodeCfg* node = top();
+    try {
+        if (auto* data = dynamic_cast<UseDataCfgImpl*>(node)) {
+            data->setValue(readDataValue(name));
+        } else if (auto* reference = dynamic_cast<UseRefDataCfgImpl*>(node)) {
+            reference->setReference(captured_.markup());
+        }
+    } catch (kazexception::IKAZException* e) {
+        kazexception::ExceptionGuard guard(e);
+        addError(L"\nexception occorred at <" + name + L">\n" + e->getMessage());
+    }
+    captured_.clear();
+}
+
+// Content without elements is read from its text directly; content with
+// elements is read back through the document, as createUseDataCfg reads it.
+tableobj::IElement* KAZParserContentHandlerImpl::readDataValue(const std::wstring& name) const {
+    using tableobj::IElement;
+    IElement::ElementType type = UseDataCfgImpl::typeOfElement(name);
+    if (!captured_.hasElements()) return tablereader::valueFromText(type, captured_.text());
+    const IXMLDOMDocument2Ptr doc = KAZConfigFactory::createXMLDocument();
+    if (!KAZConfigFactory::loadXMLContent(doc,
+                                          L"<" + name + L">" + captured_.markup() + endTag(name)))
+        errors::invalidData(
+            L"<" + name + L">: its content does not read back: " + doc->parseError().reason,
+            KAZ_HERE(L"kaz::kazparser::KAZParserContentHandlerImpl", L"endElement"));
+    const IXMLDOMNodePtr element = doc->documentElement();
+    if (type == IElement::Tables) {
+        const IXMLDOMNodePtr tables = tablereader::firstElementChild(*element);
+        if (tables != nullptr && tablereader::holdsTablesLists(*tables))
+            type = IElement::TablesCollection;
+    }
+    return KAZConfigFactory::createDataValue(type, element);
 }
 
 }  // namespace kaz::kazparser

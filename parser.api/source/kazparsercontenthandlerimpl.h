@@ -6,7 +6,9 @@
 
 #include "kazparser/INodeCfg.h"
 #include "kazsaxattributesimpl.h"
+#include "markupcapture.h"
 #include "nodestackhandler.h"
+#include "tableobj/IElement.h"
 
 namespace kaz::kazparser {
 
@@ -40,6 +42,11 @@ private:
     // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
     void replaceRootDirectory(std::wstring& text);
     void freeRefused();
+    // At the end of a data value's or reference's element: hands the
+    // captured content to its node (the top node).
+    void finishCapture(const std::wstring& name);
+    // The value of the data element `name` from the captured content.
+    tableobj::IElement* readDataValue(const std::wstring& name) const;
 
     bool errorFlag_ = false;
     std::wstring errorText_;
@@ -49,6 +56,10 @@ private:
     // For each open element, whether its start made a node.
     std::vector<bool> madeNode_;
     std::optional<std::wstring> rootDirectory_;
+    // Data mode: a data value's or reference's element is open, and its
+    // content is captured instead of making nodes.
+    bool dataMode_ = false;
+    MarkupCapture captured_;
 };
 
 }  // namespace kaz::kazparser

@@ -71,13 +71,18 @@ protected:
     // Copies every item in order, each made a child of the copy.
     NodeCollection(const NodeCollection& other) : NodeImpl<Interface>(other) {
         items_.reserve(other.items_.size());
-        for (const Item* item : other.items_) {
-            INodeCfg* copy = item->clone();
-            if (Item* typed = dynamic_cast<Item*>(copy)) {
-                appendItem(typed);
-            } else {
-                delete copy;
+        try {
+            for (const Item* item : other.items_) {
+                INodeCfg* copy = item->clone();
+                if (Item* typed = dynamic_cast<Item*>(copy)) {
+                    appendItem(typed);
+                } else {
+                    delete copy;
+                }
             }
+        } catch (...) {  // the destructor does not run for a copy that fails
+            deleteChildren();
+            throw;
         }
     }
 
@@ -118,6 +123,25 @@ protected:
         items_.erase(items_.begin() + index);
         item->setParent(nullptr);
         return item;
+    }
+
+    // Typed companions of the list operations: a null item is refused with
+    // kNoPosition instead of an error; the erasing forms delete the item
+    // they take out.
+    unsigned int appendTyped(Item* item) {
+        return item != nullptr ? appendItem(item) : kNoPosition;
+    }
+    Item* typedChild(unsigned int index) const {
+        checkIndex(index, L"getChild");
+        return items_[index];
+    }
+    bool eraseItem(unsigned int index) {
+        delete this->remove(index);
+        return true;
+    }
+    bool replaceAndDelete(Item* item, unsigned int index) {
+        delete this->replace(item, index);
+        return true;
     }
 
     // The position of the last item whose getName() is `name`, or kNoPosition.

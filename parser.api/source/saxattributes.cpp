@@ -1,5 +1,8 @@
 #include "saxattributes.h"
 
+#include <algorithm>
+#include <cwctype>
+
 #include "kazxml/PlatformError.h"
 
 namespace kaz::kazparser {
@@ -41,6 +44,14 @@ AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes) {
     for (int i = 0; i < count; ++i)
         list.emplace_back(attributeQName(*attributes, i), attributeValue(*attributes, i));
     return list;
+}
+
+bool flagValue(const std::wstring& value) {
+    static const std::wstring kTrue = L"true";
+    return std::equal(value.begin(), value.end(), kTrue.begin(), kTrue.end(),
+                      [](wchar_t c, wchar_t t) {
+                          return static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c))) == t;
+                      });
 }
 
 }  // namespace kaz::kazparser

@@ -17,5 +17,7 @@ std::wstring attributeQName(kaz::xml::ISAXAttributes& attributes, int index);
 std::wstring attributeValue(kaz::xml::ISAXAttributes& attributes, int index);
 // Every (qualified name, value) pair in document order; none for null.
 AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes);
+// An attribute flag: true exactly when the value, lowered, is "true".
+bool flagValue(const std::wstring& value);
 
 }  // namespace kaz::kazparser

@@ -2,7 +2,9 @@
 #include <libxml/parser.h>
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
+#include <utility>
 
 #include "dom.h"
 #include "kazxml/SAX.h"
@@ -75,12 +77,15 @@ void onEndElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, co
 
 void onError(void* ctx, xmlErrorPtr error) {
     if (error == nullptr || error->level != XML_ERR_FATAL) return;
+    if (static_cast<xmlParserCtxtPtr>(ctx)->_private == nullptr) return;  // not parsing yet
     LoadState::of(ctx).record(*error);
 }
 
 // libxml2's tree builder, minus everything that touches a DTD or an entity
 // declaration; errors come to us only.
-void secure(xmlSAXHandler& sax) {
+xmlSAXHandler treeBuilder() {
+    xmlSAXHandler sax{};
+    xmlSAXVersion(&sax, 2);
     sax.internalSubset = onInternalSubset;
     sax.externalSubset = nullptr;
     sax.resolveEntity = nullptr;
@@ -97,6 +102,20 @@ void secure(xmlSAXHandler& sax) {
     sax.error = nullptr;
     sax.fatalError = nullptr;
     sax.serror = onError;
+    return sax;
+}
+
+// The tree builder keeps namespace names as libxml2 delivers them, each "&"
+// written "&#38;"; give them their real value.
+void restoreNamespaceNames(xmlDocPtr doc) {
+    detail::forEachDeclaration(reinterpret_cast<xmlNodePtr>(doc), [](xmlNsPtr ns) {
+        const auto* href = reinterpret_cast<const char*>(ns->href);
+        if (href == nullptr || std::strchr(href, '&') == nullptr) return;
+        xmlChar* value = xmlStrdup(BAD_CAST detail::decodeAmpersands(href).c_str());
+        if (value == nullptr) throw std::bad_alloc();
+        xmlFree(const_cast<xmlChar*>(ns->href));
+        ns->href = value;
+    });
 }
 
 struct ContextFree {
@@ -110,14 +129,19 @@ std::shared_ptr<const detail::DocumentTree> load(const std::string& utf8, LoadSt
         state.failure = detail::emptyDocument();
         return nullptr;
     }
-    std::unique_ptr<xmlParserCtxt, ContextFree> ctxt(xmlNewParserCtxt());
+    // The same push parser as the SAX reader's, so both judge a text alike.
+    std::unique_ptr<xmlParserCtxt, ContextFree> ctxt(
+        detail::openPushParser(treeBuilder(), nullptr));
     if (!ctxt) throw std::bad_alloc();
     ctxt->_private = &state;
-    secure(*ctxt->sax);
-    xmlDocPtr doc = xmlCtxtReadMemory(ctxt.get(), utf8.data(), static_cast<int>(utf8.size()),
-                                      nullptr, "UTF-8", detail::kParseOptions);
+    detail::feedPushParser(ctxt.get(), utf8, state.failed);
+    xmlDocPtr doc = std::exchange(ctxt->myDoc, nullptr);
     if (doc != nullptr && !state.failed && ctxt->wellFormed) {
-        return std::make_shared<const detail::DocumentTree>(doc);
+        auto tree = detail::adopt(doc);
+        restoreNamespaceNames(doc);
+        // Lets the serializer write characters as themselves in attribute values too.
+        if (doc->encoding == nullptr) doc->encoding = xmlStrdup(BAD_CAST "UTF-8");
+        return tree;
     }
     xmlFreeDoc(doc);
     // A failure that did not reach us as a fatal error.
@@ -134,22 +158,25 @@ struct Document::Impl {
     detail::Owner owner() const { return {tree, nullptr}; }
     xmlNodePtr root() const { return reinterpret_cast<xmlNodePtr>(tree->doc); }
 
-    // Without a document the expression is still checked.
+    // Without content, on an empty document: the expression is still checked.
     std::vector<IXMLDOMNodePtr> select(const std::wstring& xpath, std::size_t limit) const {
-        if (!tree) return detail::select({}, nullptr, nullptr, xpath, limit);
-        return detail::select(owner(), tree->doc, root(), xpath, limit);
+        if (tree) return detail::select(owner(), tree->doc, root(), xpath, limit);
+        const detail::Owner empty{detail::adopt(xmlNewDoc(BAD_CAST "1.0")), nullptr};
+        xmlDocPtr doc = empty.tree->doc;
+        return detail::select(empty, doc, reinterpret_cast<xmlNodePtr>(doc), xpath, limit);
     }
 };
 
 Document::Document() : impl_(std::make_shared<Impl>()) {}
 Document::~Document() = default;
 
-IXMLDOMDocument2Ptr Document::create() { return IXMLDOMDocument2Ptr(new Document()); }
+IXMLDOMDocument2Ptr Document::create() {
+    return IXMLDOMDocument2Ptr(new Document());
+}
 
 bool Document::loadXML(const std::wstring& text) {
     impl_->tree.reset();
     impl_->error = ParseErrorInfo();
-    detail::ensureParserInitialized();
     LoadState state;
     impl_->tree = load(detail::utf8ForParser(text), state);
     if (impl_->tree) return true;
@@ -158,7 +185,9 @@ bool Document::loadXML(const std::wstring& text) {
     return false;
 }
 
-const ParseErrorInfo& Document::parseError() const { return impl_->error; }
+const ParseErrorInfo& Document::parseError() const {
+    return impl_->error;
+}
 
 IXMLDOMNodePtr Document::documentElement() const {
     if (!impl_->tree) return nullptr;

@@ -3,6 +3,7 @@
 #include <libxml/tree.h>
 
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,12 @@
 namespace kaz::xml {
 
 namespace detail {
+
+// Deleter of a libxml2 object for std::unique_ptr.
+template <typename T, void (*Free)(T*)>
+struct Freer {
+    void operator()(T* p) const { Free(p); }
+};
 
 // Owns a parsed document.
 struct DocumentTree {
@@ -21,6 +28,15 @@ struct DocumentTree {
 
     xmlDocPtr doc;
 };
+
+// Takes ownership of a document libxml2 made (null: out of memory).
+inline std::shared_ptr<const DocumentTree> adopt(xmlDocPtr doc) {
+    std::unique_ptr<xmlDoc, Freer<xmlDoc, xmlFreeDoc>> owned(doc);
+    if (!owned) throw std::bad_alloc();
+    auto tree = std::make_shared<const DocumentTree>(owned.get());
+    owned.release();
+    return tree;
+}
 
 // Owns a copy that belongs to no parent. The copy still points at its
 // document (whose dictionary holds its names), so the document outlives it.
@@ -42,6 +58,22 @@ struct Owner {
     std::shared_ptr<const DetachedTree> detached;
 };
 
+// Visits the namespace declarations of `top` and of the elements below it.
+template <typename Visit>
+void forEachDeclaration(xmlNodePtr top, Visit&& visit) {
+    for (xmlNodePtr node = top; node != nullptr;) {
+        if (node->type == XML_ELEMENT_NODE)
+            for (xmlNsPtr ns = node->nsDef; ns != nullptr; ns = ns->next) visit(ns);
+        const bool container = node->type == XML_ELEMENT_NODE || node->type == XML_DOCUMENT_NODE;
+        if (container && node->children != nullptr) {
+            node = node->children;
+            continue;
+        }
+        while (node != top && node->next == nullptr) node = node->parent;
+        node = node == top ? nullptr : node->next;
+    }
+}
+
 // A handle on `node`; null for a null node or one a handle cannot hold.
 IXMLDOMNodePtr makeNode(const Owner& owner, xmlNodePtr node);
 
@@ -50,7 +82,8 @@ IXMLDOMNodePtr makeNode(const Owner& owner, xmlNodePtr node);
 std::vector<IXMLDOMNodePtr> select(const Owner& owner, xmlDocPtr doc, xmlNodePtr context,
                                    const std::wstring& expression, std::size_t limit);
 
-// Markup of a node or document: UTF-8 characters as themselves, no declaration.
+// Markup of a node or document that loads again: characters as themselves,
+// no XML declaration; an element declares the namespaces it uses.
 std::wstring serialize(xmlNodePtr node);
 
 }  // namespace detail

@@ -1,5 +1,8 @@
 #include "libxmlsupport.h"
 
+#include <libxml/parserInternals.h>
+
+#include <algorithm>
 #include <mutex>
 
 #include "ioutils/TextCodec.h"
@@ -11,13 +14,34 @@ void ensureParserInitialized() {
     std::call_once(once, [] { xmlInitParser(); });
 }
 
+xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData) {
+    ensureParserInitialized();
+    xmlParserCtxtPtr ctxt = xmlCreatePushParserCtxt(&sax, userData, nullptr, 0, nullptr);
+    if (ctxt == nullptr) return nullptr;
+    xmlCtxtUseOptions(ctxt, kParseOptions);
+    xmlSwitchEncoding(ctxt, XML_CHAR_ENCODING_UTF8);
+    return ctxt;
+}
+
+void feedPushParser(xmlParserCtxtPtr ctxt, const std::string& utf8, const bool& stop) {
+    constexpr std::size_t kChunkSize = 64 * 1024;
+    for (std::size_t offset = 0; offset < utf8.size() && !stop;) {
+        const std::size_t size = std::min(kChunkSize, utf8.size() - offset);
+        const bool last = offset + size == utf8.size();
+        xmlParseChunk(ctxt, utf8.data() + offset, static_cast<int>(size), last ? 1 : 0);
+        offset += size;
+    }
+}
+
 std::string utf8ForParser(const std::wstring& text) {
     std::wstring_view view(text);
     if (!view.empty() && view.front() == L'\xFEFF') view.remove_prefix(1);
     return ioutils::utf8FromWide(view);
 }
 
-bool blank(std::string_view utf8) { return utf8.find_first_not_of(" \t\r\n") == utf8.npos; }
+bool blank(std::string_view utf8) {
+    return utf8.find_first_not_of(" \t\r\n") == utf8.npos;
+}
 
 std::wstring toWide(const xmlChar* text) {
     if (text == nullptr) return std::wstring();
@@ -29,9 +53,39 @@ std::wstring toWide(const xmlChar* text, std::size_t length) {
     return ioutils::wideFromUtf8(std::string_view(reinterpret_cast<const char*>(text), length));
 }
 
+std::wstring qualifiedName(const xmlChar* prefix, const xmlChar* localName) {
+    if (prefix == nullptr) return toWide(localName);
+    return toWide(prefix) + L':' + toWide(localName);
+}
+
+std::string decodeAmpersands(std::string_view delivered) {
+    constexpr std::string_view kAmpersand = "&#38;";
+    std::string value;
+    value.reserve(delivered.size());
+    for (std::size_t pos = 0; pos < delivered.size();) {
+        const std::size_t found = delivered.find(kAmpersand, pos);
+        value.append(delivered.substr(pos, found - pos));
+        if (found == delivered.npos) break;
+        value += '&';
+        pos = found + kAmpersand.size();
+    }
+    return value;
+}
+
+std::wstring attributeValue(std::string_view delivered) {
+    return ioutils::wideFromUtf8(decodeAmpersands(delivered));
+}
+
+std::wstring namespaceName(const xmlChar* delivered) {
+    if (delivered == nullptr) return std::wstring();
+    return attributeValue(reinterpret_cast<const char*>(delivered));
+}
+
 ErrorReport reportFrom(const xmlError& error) {
-    ErrorReport report{XML_E_PARSE_BASE + error.code, error.line, error.int2, toWide(BAD_CAST error.message)};
-    while (!report.message.empty() && (report.message.back() == L'\n' || report.message.back() == L'\r'))
+    ErrorReport report{XML_E_PARSE_BASE + error.code, error.line, error.int2,
+                       toWide(BAD_CAST error.message)};
+    while (!report.message.empty() &&
+           (report.message.back() == L'\n' || report.message.back() == L'\r'))
         report.message.pop_back();
     return report;
 }

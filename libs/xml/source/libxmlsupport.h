@@ -21,6 +21,14 @@ constexpr wchar_t kTooDeep[] = L"elements nested deeper than 256 levels";
 // Initializes libxml2 once per process, before the first parse.
 void ensureParserInitialized();
 
+// A push parser calling `sax` (copied) back with `userData` (null: the
+// context itself), under kParseOptions, told that the text is UTF-8.
+// Null when out of memory.
+xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData);
+// Feeds the text in chunks of at most 64 KiB, the last one ending the
+// document; stops early once `stop` turns true.
+void feedPushParser(xmlParserCtxtPtr ctxt, const std::string& utf8, const bool& stop);
+
 // The text as UTF-8 for libxml2, without a leading byte order mark (which
 // libxml2 would take for content once told the text is UTF-8).
 std::string utf8ForParser(const std::wstring& text);
@@ -29,9 +37,19 @@ bool blank(std::string_view utf8);
 
 std::wstring toWide(const xmlChar* text);
 std::wstring toWide(const xmlChar* text, std::size_t length);
+// "prefix:localName", or "localName" without a prefix.
+std::wstring qualifiedName(const xmlChar* prefix, const xmlChar* localName);
 inline const xmlChar* asXmlChars(const std::string& text) {
     return reinterpret_cast<const xmlChar*>(text.c_str());
 }
+
+// libxml2 hands every "&" of an attribute value (namespace names included)
+// over as "&#38;", keeping the reference unexpanded. A literal "&" cannot
+// occur there otherwise, so turning each "&#38;" back into "&", left to
+// right, restores the value exactly.
+std::string decodeAmpersands(std::string_view delivered);
+std::wstring attributeValue(std::string_view delivered);
+std::wstring namespaceName(const xmlChar* delivered);  // empty for null
 
 // One problem found in the text, with its place.
 struct ErrorReport {

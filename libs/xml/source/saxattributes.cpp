@@ -9,11 +9,8 @@ namespace {
 
 constexpr wchar_t kCData[] = L"CDATA";
 
-const char* chars(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
-
-std::wstring qualified(const xmlChar* prefix, const xmlChar* localName) {
-    if (prefix == nullptr) return toWide(localName);
-    return toWide(prefix) + L':' + toWide(localName);
+const char* chars(const xmlChar* text) {
+    return reinterpret_cast<const char*>(text);
 }
 
 long answer(const std::wstring& text, const wchar_t** out, int* length) {
@@ -34,26 +31,12 @@ std::wstring_view view(const wchar_t* text, int length) {
 
 }  // namespace
 
-std::string decodeAttributeValue(std::string_view delivered) {
-    constexpr std::string_view kAmpersand = "&#38;";
-    std::string value;
-    value.reserve(delivered.size());
-    for (std::size_t pos = 0; pos < delivered.size();) {
-        const std::size_t found = delivered.find(kAmpersand, pos);
-        value.append(delivered.substr(pos, found - pos));
-        if (found == delivered.npos) break;
-        value += '&';
-        pos = found + kAmpersand.size();
-    }
-    return value;
-}
-
 void SAXAttributes::assign(int namespaceCount, const xmlChar** namespaces, int attributeCount,
                            const xmlChar** attributes) {
     entries_.clear();
     for (int i = 0; i < namespaceCount; ++i) {
         const xmlChar* prefix = namespaces[2 * i];
-        const std::wstring uri = toWide(namespaces[2 * i + 1]);
+        const std::wstring uri = namespaceName(namespaces[2 * i + 1]);
         if (prefix == nullptr)
             entries_.push_back({L"", L"xmlns", L"xmlns", uri});
         else
@@ -62,12 +45,10 @@ void SAXAttributes::assign(int namespaceCount, const xmlChar** namespaces, int a
     for (int i = 0; i < attributeCount; ++i) {
         const xmlChar** a = attributes + 5 * i;
         const std::string_view delivered(chars(a[3]), static_cast<std::size_t>(a[4] - a[3]));
-        const std::string value = decodeAttributeValue(delivered);
-        entries_.push_back({toWide(a[2]), toWide(a[0]), qualified(a[1], a[0]),
-                            toWide(BAD_CAST value.data(), value.size())});
+        entries_.push_back({namespaceName(a[2]), toWide(a[0]), qualifiedName(a[1], a[0]),
+                            attributeValue(delivered)});
     }
 }
-
 
 const SAXAttributes::Entry* SAXAttributes::at(int index) const {
     if (index < 0 || static_cast<std::size_t>(index) >= entries_.size()) return nullptr;
@@ -114,8 +95,8 @@ long SAXAttributes::getQName(int index, const wchar_t** qName, int* qNameLength)
 }
 
 long SAXAttributes::getName(int index, const wchar_t** uri, int* uriLength,
-                            const wchar_t** localName, int* localNameLength,
-                            const wchar_t** qName, int* qNameLength) {
+                            const wchar_t** localName, int* localNameLength, const wchar_t** qName,
+                            int* qNameLength) {
     const Entry* entry = at(index);
     if (entry == nullptr) return E_INVALIDARG;
     long result = answer(entry->uri, uri, uriLength);
@@ -161,13 +142,12 @@ long SAXAttributes::getValue(int index, const wchar_t** value, int* valueLength)
 }
 
 long SAXAttributes::getValueFromName(const wchar_t* uri, int uriLength, const wchar_t* localName,
-                                     int localNameLength, const wchar_t** value,
-                                     int* valueLength) {
+                                     int localNameLength, const wchar_t** value, int* valueLength) {
     return getValue(indexOf(uri, uriLength, localName, localNameLength), value, valueLength);
 }
 
-long SAXAttributes::getValueFromQName(const wchar_t* qName, int qNameLength,
-                                      const wchar_t** value, int* valueLength) {
+long SAXAttributes::getValueFromQName(const wchar_t* qName, int qNameLength, const wchar_t** value,
+                                      int* valueLength) {
     return getValue(indexOfQName(qName, qNameLength), value, valueLength);
 }
 

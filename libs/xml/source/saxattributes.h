@@ -3,7 +3,6 @@
 #include <libxml/xmlstring.h>
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "kazxml/SAX.h"
@@ -57,10 +56,5 @@ private:
 
     std::vector<Entry> entries_;
 };
-
-// libxml2 hands every "&" of an attribute value over as "&#38;" (it keeps
-// references unexpanded); a literal "&" cannot occur otherwise, so turning
-// each "&#38;" back into "&", left to right, restores the value exactly.
-std::string decodeAttributeValue(std::string_view delivered);
 
 }  // namespace kaz::xml::detail

@@ -1,11 +1,11 @@
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
-#include <libxml/parserInternals.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kazxml/SAX.h"
@@ -18,16 +18,10 @@ namespace {
 using detail::ErrorReport;
 using detail::toWide;
 
-constexpr std::size_t kChunkSize = 64 * 1024;
-
-std::wstring qualified(const xmlChar* prefix, const xmlChar* localName) {
-    if (prefix == nullptr) return toWide(localName);
-    return toWide(prefix) + L':' + toWide(localName);
-}
-
 std::wstring hex(long code) {
     wchar_t text[16];
-    std::swprintf(text, std::size(text), L"0x%08lX", static_cast<unsigned long>(code) & 0xFFFFFFFFul);
+    std::swprintf(text, std::size(text), L"0x%08lX",
+                  static_cast<unsigned long>(code) & 0xFFFFFFFFul);
     return text;
 }
 
@@ -84,7 +78,6 @@ private:
     static ParseSession& of(void* userData) { return *static_cast<ParseSession*>(userData); }
 
     bool open();
-    void feed(const std::string& utf8);
     void finish();
 
     // Runs one content event: a failure code or an exception ends the parse.
@@ -99,12 +92,13 @@ private:
     void startElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                       int namespaceCount, const xmlChar** namespaces, int attributeCount,
                       const xmlChar** attributes);
+    void mapPrefixes(int namespaceCount, const xmlChar** namespaces);
     void endElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri);
     void characters(const xmlChar* text, int length);
     void refuse(long code);
     void report(const ErrorReport& report, xmlErrorLevel level);
     long callErrorHandler(const ErrorReport& report, xmlErrorLevel level);
-    void fail(long code, const std::wstring& description);
+    void fail(long code, std::wstring_view description) noexcept;
 
     static void onStartDocument(void* userData);
     static void onStartElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
@@ -113,8 +107,7 @@ private:
     static void onEndElement(void* userData, const xmlChar* localName, const xmlChar* prefix,
                              const xmlChar* uri);
     static void onCharacters(void* userData, const xmlChar* text, int length);
-    static void onProcessingInstruction(void* userData, const xmlChar* target,
-                                        const xmlChar* data);
+    static void onProcessingInstruction(void* userData, const xmlChar* target, const xmlChar* data);
     static void onInternalSubset(void* userData, const xmlChar* name, const xmlChar* externalId,
                                  const xmlChar* systemId);
     static void onError(void* userData, xmlErrorPtr error);
@@ -156,30 +149,16 @@ long ParseSession::run(const std::string& utf8) {
         // libxml2 calls an empty text "extra content"; say what it is.
         if (!ended_) report(detail::emptyDocument(), XML_ERR_FATAL);
     } else {
-        feed(utf8);
+        detail::feedPushParser(ctxt_, utf8, ended_);
     }
     finish();
     return result_;
 }
 
 bool ParseSession::open() {
-    detail::ensureParserInitialized();
-    xmlSAXHandler handler = makeHandler();
-    ctxt_ = xmlCreatePushParserCtxt(&handler, this, nullptr, 0, nullptr);
-    if (ctxt_ == nullptr) return false;
-    xmlCtxtUseOptions(ctxt_, detail::kParseOptions);
-    xmlSwitchEncoding(ctxt_, XML_CHAR_ENCODING_UTF8);
+    ctxt_ = detail::openPushParser(makeHandler(), this);
     locator_.attach(ctxt_);
-    return true;
-}
-
-void ParseSession::feed(const std::string& utf8) {
-    for (std::size_t offset = 0; offset < utf8.size() && !ended_;) {
-        const std::size_t size = std::min(kChunkSize, utf8.size() - offset);
-        const bool last = offset + size == utf8.size();
-        xmlParseChunk(ctxt_, utf8.data() + offset, static_cast<int>(size), last ? 1 : 0);
-        offset += size;
-    }
+    return ctxt_ != nullptr;
 }
 
 void ParseSession::finish() {
@@ -215,18 +194,20 @@ void ParseSession::deliver(Event&& event) {
     guarded([&] {
         const long result = event();
         if (failed(result)) {
-            const ErrorReport here{result, detail::currentLine(ctxt_),
-                                   detail::currentColumn(ctxt_),
+            const ErrorReport here{result, detail::currentLine(ctxt_), detail::currentColumn(ctxt_),
                                    L"the content handler answered " + hex(result)};
             fail(result, detail::describe(here));
         }
     });
 }
 
-void ParseSession::fail(long code, const std::wstring& description) {
+void ParseSession::fail(long code, std::wstring_view description) noexcept {
     if (result_ == S_OK) {
         result_ = code;
-        description_ = description;
+        try {
+            description_.assign(description);
+        } catch (...) {  // runs inside libxml2's frames: no exception may leave
+        }
     }
     // Ends SAX events at once; the parser itself is halted by the callback
     // that ended the parse (never from inside libxml2's error reporting).
@@ -234,26 +215,16 @@ void ParseSession::fail(long code, const std::wstring& description) {
     if (ctxt_ != nullptr) ctxt_->disableSAX = 1;
 }
 
-void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
-                                const xmlChar* uri, int namespaceCount,
-                                const xmlChar** namespaces, int attributeCount,
+void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
+                                int namespaceCount, const xmlChar** namespaces, int attributeCount,
                                 const xmlChar** attributes) {
     if (++depth_ > SAXXMLReader::kMaxDepth) return refuse(XML_E_TOO_DEEP);
     if (content_ == nullptr) return;
-    std::vector<std::wstring>& declared = prefixes_.emplace_back();
-    for (int i = 0; i < namespaceCount && !ended_; ++i) {
-        declared.push_back(toWide(namespaces[2 * i]));
-        const std::wstring target = toWide(namespaces[2 * i + 1]);
-        deliver([&] {
-            return content_->startPrefixMapping(declared.back().c_str(),
-                                                static_cast<int>(declared.back().size()),
-                                                target.c_str(), static_cast<int>(target.size()));
-        });
-    }
+    mapPrefixes(namespaceCount, namespaces);
     attributes_.assign(namespaceCount, namespaces, attributeCount, attributes);
-    const std::wstring ns = toWide(uri);
+    const std::wstring ns = detail::namespaceName(uri);
     const std::wstring local = toWide(localName);
-    const std::wstring qName = qualified(prefix, localName);
+    const std::wstring qName = detail::qualifiedName(prefix, localName);
     deliver([&] {
         return content_->startElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
                                       static_cast<int>(local.size()), qName.c_str(),
@@ -261,13 +232,24 @@ void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
     });
 }
 
-void ParseSession::endElement(const xmlChar* localName, const xmlChar* prefix,
-                              const xmlChar* uri) {
+void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
+    std::vector<std::wstring>& declared = prefixes_.emplace_back();
+    for (int i = 0; i < namespaceCount && !ended_; ++i) {
+        const std::wstring& prefix = declared.emplace_back(toWide(namespaces[2 * i]));
+        const std::wstring uri = detail::namespaceName(namespaces[2 * i + 1]);
+        deliver([&] {
+            return content_->startPrefixMapping(prefix.c_str(), static_cast<int>(prefix.size()),
+                                                uri.c_str(), static_cast<int>(uri.size()));
+        });
+    }
+}
+
+void ParseSession::endElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri) {
     --depth_;
     if (content_ == nullptr) return;
-    const std::wstring ns = toWide(uri);
+    const std::wstring ns = detail::namespaceName(uri);
     const std::wstring local = toWide(localName);
-    const std::wstring qName = qualified(prefix, localName);
+    const std::wstring qName = detail::qualifiedName(prefix, localName);
     deliver([&] {
         return content_->endElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
                                     static_cast<int>(local.size()), qName.c_str(),
@@ -286,7 +268,9 @@ void ParseSession::characters(const xmlChar* text, int length) {
     deliver([&] { return content_->characters(chars.c_str(), static_cast<int>(chars.size())); });
 }
 
-void ParseSession::refuse(long code) { report(detail::refusalAt(ctxt_, code), XML_ERR_FATAL); }
+void ParseSession::refuse(long code) {
+    report(detail::refusalAt(ctxt_, code), XML_ERR_FATAL);
+}
 
 void ParseSession::report(const ErrorReport& report, xmlErrorLevel level) {
     if (level == XML_ERR_FATAL) fail(report.code, detail::describe(report));
@@ -347,9 +331,9 @@ void ParseSession::onProcessingInstruction(void* userData, const xmlChar* target
         const std::wstring name = toWide(target);
         const std::wstring text = toWide(data);
         session.deliver([&] {
-            return session.content_->processingInstruction(name.c_str(),
-                                                           static_cast<int>(name.size()),
-                                                           text.c_str(), static_cast<int>(text.size()));
+            return session.content_->processingInstruction(
+                name.c_str(), static_cast<int>(name.size()), text.c_str(),
+                static_cast<int>(text.size()));
         });
     });
 }
@@ -399,6 +383,8 @@ long SAXXMLReader::parse(const std::wstring& text) {
     return result;
 }
 
-const std::wstring& SAXXMLReader::getErrorDescription() const { return errorDescription_; }
+const std::wstring& SAXXMLReader::getErrorDescription() const {
+    return errorDescription_;
+}
 
 }  // namespace kaz::xml

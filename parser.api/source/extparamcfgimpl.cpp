@@ -1,0 +1,45 @@
+#include "extparamcfgimpl.h"
+
+#include "saxattributes.h"
+
+namespace kaz::kazparser {
+
+ExtParamCfgImpl::ExtParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
+
+ExtParamCfgImpl::ExtParamCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+    : DataChildNode(parent) {
+    for (const auto& [name, value] : readAttributes(attributes)) {
+        if (name == L"name") {
+            name_ = value;
+        } else if (name == L"desc") {
+            desc_ = value;
+        } else if (name == L"scaleRelate") {
+            scaleRelate_ = flagValue(value);
+        }
+    }
+}
+
+const std::wstring& ExtParamCfgImpl::getName() const {
+    static const std::wstring name = L"ExtParam";
+    return name;
+}
+
+bool ExtParamCfgImpl::writeXml(IXmlWriter& out) const {
+    StartTag tag(getName());
+    tag.text(L"name", name_).text(L"desc", desc_).flag(L"scaleRelate", scaleRelate_);
+    return writeElement(out, tag.str(), getName());
+}
+
+bool ExtParamCfgImpl::setChild(INodeCfg* child) {
+    auto* data = dynamic_cast<IDataCfg*>(child);
+    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
+    setDataChild(data, this);
+    return true;
+}
+
+void ExtParamCfgImpl::setData(IDataCfg* data) {
+    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setData"));
+    setDataChild(data, this);
+}
+
+}  // namespace kaz::kazparser

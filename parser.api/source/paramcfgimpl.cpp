@@ -1,0 +1,58 @@
+#include "paramcfgimpl.h"
+
+#include <cmath>
+
+#include "ioutils/Numbers.h"
+#include "saxattributes.h"
+
+namespace kaz::kazparser {
+namespace {
+
+// A shift this small is taken for none and not written.
+constexpr double kShiftThreshold = 0.0001;
+
+}  // namespace
+
+ParamCfgImpl::ParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {
+    name_ = L"Param";
+}
+
+ParamCfgImpl::ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
+                           INodeCfg* parent)
+    : DataChildNode(parent) {
+    name_ = name;
+    for (const auto& [attribute, value] : readAttributes(attributes)) {
+        if (attribute == L"shift") {
+            shift_ = ioutils::parseDouble(value);
+        } else if (attribute == L"transformCode") {
+            transformCode_ = value;
+        } else if (attribute == L"scaleRelate") {
+            scaleRelate_ = flagValue(value);
+        } else if (attribute == L"shiftScaleRelate") {
+            shiftScaleRelate_ = flagValue(value);
+        } else if (attribute == L"systemValue") {
+            systemValue_ = flagValue(value);
+        } else if (attribute == L"desc") {
+            desc_ = value;
+        } else {
+            extras_.set(attribute, value);
+        }
+    }
+}
+
+bool ParamCfgImpl::writeXml(IXmlWriter& out) const {
+    StartTag tag(name_);
+    tag.number(L"shift", shift_, std::fabs(shift_) > kShiftThreshold);
+    tag.text(L"transformCode", transformCode_).flag(L"scaleRelate", scaleRelate_);
+    tag.flag(L"shiftScaleRelate", shiftScaleRelate_).flag(L"systemValue", systemValue_);
+    extras_.write(tag);
+    return writeElement(out, tag.str(), name_);
+}
+
+bool ParamCfgImpl::setChild(INodeCfg* child) {
+    if (child == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
+    setDataChild(child, this);
+    return true;
+}
+
+}  // namespace kaz::kazparser

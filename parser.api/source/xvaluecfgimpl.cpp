@@ -1,0 +1,43 @@
+#include "xvaluecfgimpl.h"
+
+#include "saxattributes.h"
+
+namespace kaz::kazparser {
+
+XValueCfgImpl::XValueCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
+
+XValueCfgImpl::XValueCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+    : DataChildNode(parent) {
+    for (const auto& [name, value] : readAttributes(attributes)) {
+        if (name == L"name") {
+            name_ = value;
+        } else if (name == L"desc") {
+            desc_ = value;
+        } else if (name == L"scaleRelate") {
+            scaleRelate_ = flagValue(value);
+        } else if (name == L"systemValue") {
+            systemValue_ = flagValue(value);
+        }
+    }
+}
+
+const std::wstring& XValueCfgImpl::getName() const {
+    static const std::wstring name = L"XValue";
+    return name;
+}
+
+bool XValueCfgImpl::writeXml(IXmlWriter& out) const {
+    StartTag tag(getName());
+    tag.text(L"name", name_).text(L"desc", desc_);
+    tag.flag(L"scaleRelate", scaleRelate_).flag(L"systemValue", systemValue_);
+    return writeElement(out, tag.str(), getName());
+}
+
+bool XValueCfgImpl::setChild(INodeCfg* child) {
+    auto* data = dynamic_cast<IDataCfg*>(child);
+    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
+    setDataChild(data, nullptr);
+    return true;
+}
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,156 @@
+// The data-value node kinds: names, writing, value ownership and the child
+// operations they refuse.
+
+#include <functional>
+
+#include "tableobj/TableobjFactory.h"
+#include "testsupport.h"
+
+namespace {
+
+using namespace kaztest;
+using kaz::kazparser::ILanguageStringCfg;
+using kaz::kazparser::IUseDataCfg;
+using kaz::kazparser::IUseRefDataCfg;
+using kaz::kazparser::KAZConfigFactory;
+using tableobj::IElement;
+using tableobj::TableobjFactory;
+
+NodePtr<IUseDataCfg> emptyData(INodeCfg* parent = nullptr) {
+    return NodePtr<IUseDataCfg>(
+        KAZConfigFactory::createUseDataCfg(IElement::NoValue, nullptr, parent));
+}
+NodePtr<IUseRefDataCfg> emptyReference() {
+    return NodePtr<IUseRefDataCfg>(
+        KAZConfigFactory::createUseRefDataCfg(IElement::NoValue, nullptr, nullptr));
+}
+NodePtr<ILanguageStringCfg> emptyLanguageString() {
+    return NodePtr<ILanguageStringCfg>(KAZConfigFactory::createLanguageStringCfg(nullptr, nullptr));
+}
+
+class DataNodeTest : public LeakCheckedTest {};
+
+TEST_F(DataNodeTest, KindsHaveNoChildPositionsAndTakeNoChild) {
+    auto data = emptyData();
+    auto reference = emptyReference();
+    auto text = emptyLanguageString();
+    EXPECT_EQ(data->getNodeType(), INodeCfg::UseData);
+    EXPECT_EQ(text->getNodeType(), INodeCfg::UseData);
+    EXPECT_EQ(reference->getNodeType(), INodeCfg::UseRefData);
+    EXPECT_EQ(text->getDataType(), IElement::NoValue);
+    text->setStringID(L"IDS_ROAD");
+    EXPECT_EQ(text->getDataType(), IElement::String);
+    EXPECT_EQ(reference->getDataType(), IElement::NoValue);
+    const std::pair<INodeCfg*, std::wstring> nodes[] = {
+        {data.get(), L"UseDataCfgImpl"},
+        {reference.get(), L"UseRefDataCfgImpl"},
+        {text.get(), L"LanguageStringCfgImpl"},
+    };
+    for (const auto& [node, name] : nodes) {
+        EXPECT_EQ(node->getChildCount(), 0u);
+        for (unsigned int index : {0u, 7u}) {
+            const auto chain = thrownChain([&] { node->getChild(index); });
+            ASSERT_EQ(chain.size(), 1u);
+            EXPECT_EQ(chain[0].kind, IKAZException::OutOfRange);
+            EXPECT_EQ(chain[0].message, L"index " + std::to_wstring(index) + L" is out of range");
+            EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::" + name + L"::getChild");
+        }
+    }
+    auto child = emptyData();
+    const auto chain = thrownChain([&] { data->setChild(child.get()); });
+    ASSERT_EQ(chain.size(), 1u);
+    EXPECT_EQ(chain[0].kind, IKAZException::InvalidData);
+    EXPECT_EQ(chain[0].message, L"Do not use this method");
+    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::UseDataCfgImpl::setChild");
+    EXPECT_FALSE(reference->setChild(child.get()));
+    EXPECT_FALSE(text->setChild(child.get()));
+    EXPECT_EQ(child->getParent(), nullptr);
+}
+
+TEST_F(DataNodeTest, StoredValuesNameTheElementWhereTheirTypeHasAName) {
+    struct Case {
+        std::function<IElement*()> make;
+        const wchar_t* written;  // the element was named "Held" before
+    };
+    const Case cases[] = {
+        {[] { return TableobjFactory::createBool(true); }, L"<UseBoolean>true</UseBoolean>"},
+        {[] { return TableobjFactory::createDouble(0.1); }, L"<UseDouble>0.1</UseDouble>"},
+        {[] { return TableobjFactory::createString(L"R&D <x>"); },
+         L"<UseString>R&amp;D &lt;x&gt;</UseString>"},
+        {[] { return TableobjFactory::createColumnInt(L"N"); },
+         L"<UseColumn><Column name=\"N\" datatype=\"integer\"></Column></UseColumn>"},
+        {[] { return TableobjFactory::createColumns(); }, L"<Held><Columns></Columns></Held>"},
+        {[] { return TableobjFactory::createTablesCollection(); },
+         L"<Held><Tables></Tables></Held>"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.written)));
+        auto node = emptyData();
+        EXPECT_EQ(node->toXml(), L"<UseData></UseData>");
+        node->setElementName(L"Held");
+        node->setValue(c.make());
+        EXPECT_EQ(node->getDataType(), node->getValue()->getElementType());
+        EXPECT_EQ(node->toXml(), c.written);
+        std::wstring streamed;
+        tableobj::StringXmlWriter out(streamed);
+        EXPECT_TRUE(node->writeXml(out));
+        EXPECT_EQ(streamed, c.written);
+    }
+}
+
+TEST_F(DataNodeTest, ValuesAreOwnedUntilReplacedOrReleased) {
+    auto node = emptyData();
+    const long empty = MemObject::liveCount();
+    node->setInt(3);
+    IElement* first = node->getValue();
+    node->setInt(4);
+    EXPECT_EQ(node->getValue(), first) << "a value of the type is kept";
+    node->setDouble(2.5);
+    node->setBool(false);
+    node->setString(L"a");
+    EXPECT_EQ(node->toXml(), L"<UseString>a</UseString>");
+    EXPECT_EQ(MemObject::liveCount(), empty + 1) << "each replaced value was freed";
+    IElement* held = node->getValue();
+    for (IElement* refused : {static_cast<IElement*>(nullptr), held}) {
+        const auto chain = thrownChain([&] { node->replaceValue(refused); });
+        ASSERT_EQ(chain.size(), 1u);
+        EXPECT_EQ(chain[0].message, L"Invalid argument");
+        EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::UseDataCfgImpl::replaceValue");
+        EXPECT_EQ(node->getValue(), held);
+    }
+    std::unique_ptr<IElement> previous(node->replaceValue(TableobjFactory::createInt(1)));
+    EXPECT_EQ(previous.get(), held);
+    EXPECT_EQ(node->getName(), L"UseInteger");
+    std::unique_ptr<IElement> released(node->releaseValue());
+    EXPECT_EQ(released->getElementType(), IElement::Integer);
+    EXPECT_EQ(node->getDataType(), IElement::NoValue);
+    EXPECT_EQ(node->getName(), L"UseData");
+    node->setBool(true);
+    node->setValue(nullptr);
+    EXPECT_EQ(MemObject::liveCount(), empty + 2) << "only the two handed back live";
+    EXPECT_EQ(node->getName(), L"UseBoolean");
+}
+
+TEST_F(DataNodeTest, ClonesAreDeepAndKeepTheSourceParent) {
+    auto holder = emptyData();
+    auto data = emptyData(holder.get());
+    tableobj::ITable* table = TableobjFactory::createTable(L"Roads");
+    table->setProperty(L"unit", TableobjFactory::createString(L"m"));
+    data->setValue(table);
+    NodePtr<IUseDataCfg> copy(dynamic_cast<IUseDataCfg*>(data->clone()));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->getParent(), holder.get());
+    ASSERT_NE(copy->getValue(), data->getValue());
+    EXPECT_TRUE(copy->getValue()->equals(*data->getValue()));
+
+    auto reference = emptyReference();
+    reference->setElementName(L"UseXValue");
+    reference->setReference(L"Lane&amp;<b></b>");
+    EXPECT_EQ(NodePtr<>(reference->clone())->toXml(), L"<UseXValue>Lane&amp;<b></b></UseXValue>");
+    auto text = emptyLanguageString();
+    text->setStringID(L"IDS_<1>");
+    EXPECT_EQ(NodePtr<>(text->clone())->toXml(),
+              L"<UseLanguageString>IDS_&lt;1&gt;</UseLanguageString>");
+}
+
+}  // namespace
