@@ -41,7 +41,8 @@ TEST_F(BuilderTest, ElementsOfNoKnownKindBecomeGenericNodes) {
     ASSERT_EQ(root->getChildCount(), 2u);
     EXPECT_EQ(root->getChild(0)->getParent(), root.get());
     EXPECT_EQ(root->getChild(0)->getChild(0)->getNodeType(), INodeCfg::XNode);
-    EXPECT_EQ(root->toXml(), L"<Root a=\"1\"><Child b=\"2\"><Leaf></Leaf></Child><Other></Other></Root>");
+    EXPECT_EQ(root->toXml(),
+              L"<Root a=\"1\"><Child b=\"2\"><Leaf></Leaf></Child><Other></Other></Root>");
 }
 
 TEST_F(BuilderTest, ElementsThatMakeNoNodeEndInTheThreeLevelChain) {
@@ -79,9 +80,10 @@ TEST_F(BuilderTest, MalformedTextIsShownAndGivesWhatEndedLast) {
         ASSERT_EQ(capture.messages().size(), 2u);
         EXPECT_EQ(capture.messages()[0].first, L"ErrorMessage");
         EXPECT_NE(capture.messages()[0].second.find(L"\nError : "), std::wstring::npos);
-        EXPECT_NE(capture.messages()[0].second.find(L"\nLine : 1\nCharacter : "), std::wstring::npos);
-        EXPECT_EQ(capture.messages()[1], std::make_pair(std::wstring(L"Source"),
-                                                        std::wstring(L"kaz::xml::SAXXMLReader")));
+        EXPECT_NE(capture.messages()[0].second.find(L"\nLine : 1\nCharacter : "),
+                  std::wstring::npos);
+        EXPECT_EQ(capture.messages()[1],
+                  std::make_pair(std::wstring(L"Source"), std::wstring(L"kaz::xml::SAXXMLReader")));
         if (c.lastEnded == nullptr) {
             EXPECT_EQ(result, nullptr);
         } else {
@@ -128,14 +130,16 @@ TEST_F(BuilderTest, TwoHundredFiftySixLevelsLoad) {
     auto root = build(nested(256));
     ASSERT_NE(root, nullptr);
     int depth = 1;
-    for (const INodeCfg* node = root.get(); node->getChildCount() == 1; node = node->getChild(0)) ++depth;
+    for (const INodeCfg* node = root.get(); node->getChildCount() == 1; node = node->getChild(0))
+        ++depth;
     EXPECT_EQ(depth, 256);
 }
 
 TEST_F(BuilderTest, RootDirectoryMacroIsReplacedInAttributeValues) {
     auto& environment = kaz::environmentadapter::IEnvironmentAdapter::getInstance();
     environment.setRootDirectory(L"/opt/kaz");
-    auto root = build(L"<a p=\"[Kestrelon.RootDirectory]/x;[Kestrelon.RootDirectory]\" q=\"[Kestrelon.Root]\"/>");
+    auto root = build(
+        L"<a p=\"[Kestrelon.RootDirectory]/x;[Kestrelon.RootDirectory]\" q=\"[Kestrelon.Root]\"/>");
     environment.resetRootDirectory();
     auto* node = dynamic_cast<IXNodeCfg*>(root.get());
     ASSERT_NE(node, nullptr);
@@ -148,21 +152,8 @@ TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
                                   L"<r><b></r>"};
     MessageCapture quiet;
     for (const std::wstring& text : texts) {
-        for (long allowed = 0;; ++allowed) {
-            const long live = MemObject::liveCount();
-            MemObject::failAfter(allowed);
-            bool failed = false;
-            try {
-                NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr));
-            } catch (const std::bad_alloc&) {
-                failed = true;
-            } catch (IKAZException* e) {
-                e->release();
-            }
-            MemObject::failAfter(-1);
-            ASSERT_EQ(MemObject::liveCount(), live) << "after " << allowed << " allocations";
-            if (!failed) break;
-        }
+        expectNothingLeaksUnderAllocationFailures(
+            [&] { NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr)); });
     }
 }
 

@@ -1,5 +1,7 @@
 #include "testsupport.h"
 
+#include <new>
+
 namespace kaztest {
 
 MessageCapture::MessageCapture()
@@ -11,13 +13,33 @@ MessageCapture::MessageCapture()
         });
 }
 
-MessageCapture::~MessageCapture() { kaz::kazparser::KAZConfigFactory::setMessageHandler(previous_); }
+MessageCapture::~MessageCapture() {
+    kaz::kazparser::KAZConfigFactory::setMessageHandler(previous_);
+}
 
 std::vector<ExceptionLevel> chainOf(IKAZException* e) {
     std::vector<ExceptionLevel> chain;
     for (; e != nullptr; e = e->getInnerException())
         chain.push_back({e->getKind(), e->getMessage(), e->getContext()});
     return chain;
+}
+
+void expectNothingLeaksUnderAllocationFailures(const std::function<void()>& action) {
+    for (long allowed = 0;; ++allowed) {
+        const long live = MemObject::liveCount();
+        MemObject::failAfter(allowed);
+        bool failed = false;
+        try {
+            action();
+        } catch (const std::bad_alloc&) {
+            failed = true;
+        } catch (IKAZException* e) {
+            e->release();
+        }
+        MemObject::failAfter(-1);
+        ASSERT_EQ(MemObject::liveCount(), live) << "after " << allowed << " allocations";
+        if (!failed) break;
+    }
 }
 
 std::wstring methodOf(const std::wstring& context) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -40,7 +41,9 @@ public:
     MessageCapture();
     ~MessageCapture();
     // (caption, text) pairs in the order shown.
-    const std::vector<std::pair<std::wstring, std::wstring>>& messages() const { return *messages_; }
+    const std::vector<std::pair<std::wstring, std::wstring>>& messages() const {
+        return *messages_;
+    }
 
 private:
     std::shared_ptr<std::vector<std::pair<std::wstring, std::wstring>>> messages_;
@@ -68,6 +71,11 @@ std::vector<ExceptionLevel> thrownChain(Action&& action) {
     }
     return {};
 }
+
+// Runs `action` with MemObject allocations failing after 0, 1, 2, ...
+// successful ones, until it runs through; after each run no object may be
+// left alive. Exceptions of the library that the action lets out are freed.
+void expectNothingLeaksUnderAllocationFailures(const std::function<void()>& action);
 
 // The method named by a context text ("...\n\t[method] <name>").
 std::wstring methodOf(const std::wstring& context);
