@@ -33,5 +33,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/kazparserConfigVersion.cmake
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kazparser)
 
+# The .pc file finds the prefix relative to itself, so the install can move.
+file(RELATIVE_PATH KAZPARSER_PC_TO_PREFIX "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/kazparser.pc.in ${PROJECT_BINARY_DIR}/kazparser.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kazparser.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -10,3 +10,4 @@ cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKAZPARSER_WERROR=
 cmake --build "$build_dir" -j"$(nproc)"
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 ctest --test-dir "$build_dir" --output-on-failure -j"$(nproc)"
+[ "${KAZPARSER_SANITIZE:-OFF}" = ON ] || BUILD_DIR="$build_dir" ./scripts/test-install.sh
