@@ -5,18 +5,40 @@
 #include <unordered_map>
 
 #include "characterdata.h"
+#include "datacollectorcfgimpl.h"
+#include "datamodifiercfgimpl.h"
 #include "environmentadapter/IEnvironmentAdapter.h"
 #include "extparamcfgimpl.h"
 #include "extparamscfgimpl.h"
+#include "extravaluesconfigcfgimpl.h"
+#include "featurecfgimpl.h"
+#include "featurescfgimpl.h"
+#include "inputconfigcfgimpl.h"
 #include "kazparser/KAZConfigFactory.h"
 #include "languagestringcfgimpl.h"
 #include "nodeerrors.h"
+#include "outputconfigcfgimpl.h"
 #include "paramcfgimpl.h"
 #include "paramsetcfgimpl.h"
 #include "paramsetscfgimpl.h"
+#include "samplefixedresultcfgimpl.h"
+#include "samplerefresultcfgimpl.h"
+#include "sampleresultscfgimpl.h"
+#include "presentationelementcfgimpl.h"
+#include "presentationelementscfgimpl.h"
+#include "presentationgroupcfgimpl.h"
+#include "presentercfgimpl.h"
+#include "selecttablescfgimpl.h"
 #include "tablereader.h"
 #include "usedatacfgimpl.h"
+#include "usedatacollectorcfgimpl.h"
+#include "usedatamodifierscfgimpl.h"
+#include "useenginecfgimpl.h"
+#include "useexpressioncfgimpl.h"
+#include "usefixedpresentationelementcfgimpl.h"
+#include "usepresentercfgimpl.h"
 #include "userefdatacfgimpl.h"
+#include "userefpresentationelementcfgimpl.h"
 #include "xmltags.h"
 #include "xnodecfgimpl.h"
 #include "xvaluecfgimpl.h"
@@ -59,35 +81,36 @@ INodeCfg* makeUseData(const Element& element) {
     return new UseDataCfgImpl(element.name, element.parent);
 }
 
-// Data values and references keep their element's content, nested
-// elements included, instead of making nodes of it.
+// Data values, references and table selections keep their element's
+// content, nested elements included, instead of making nodes of it.
 bool capturesContent(const INodeCfg* node) {
     return dynamic_cast<const UseDataCfgImpl*>(node) != nullptr ||
-           dynamic_cast<const UseRefDataCfgImpl*>(node) != nullptr;
+           dynamic_cast<const UseRefDataCfgImpl*>(node) != nullptr ||
+           dynamic_cast<const SelectTablesCfgImpl*>(node) != nullptr;
 }
 
 // Elements whose name decides their kind. A null maker: the element is
 // known but makes no node.
 const std::unordered_map<std::wstring, NodeMaker>& kindsByName() {
     static const std::unordered_map<std::wstring, NodeMaker> table{
-        {L"PresentationGroup", nullptr},
-        {L"InputConfig", nullptr},
-        {L"PresentationElements", nullptr},
+        {L"PresentationGroup", make<PresentationGroupCfgImpl>},
+        {L"InputConfig", make<InputConfigCfgImpl>},
+        {L"PresentationElements", make<PresentationElementsCfgImpl>},
         {L"XValue", make<XValueCfgImpl>},
-        {L"UseDataCollector", nullptr},
-        {L"UseDataModifiers", nullptr},
-        {L"UseRefPresentationElement", nullptr},
-        {L"UseFixedPresentationElement", nullptr},
+        {L"UseDataCollector", make<UseDataCollectorCfgImpl>},
+        {L"UseDataModifiers", make<UseDataModifiersCfgImpl>},
+        {L"UseRefPresentationElement", make<UseRefPresentationElementCfgImpl>},
+        {L"UseFixedPresentationElement", make<UseFixedPresentationElementCfgImpl>},
         {L"ExtParams", make<ExtParamsCfgImpl>},
         {L"ExtParam", make<ExtParamCfgImpl>},
-        {L"PresentationElement", nullptr},
-        {L"OutputConfig", nullptr},
-        {L"UsePresenter", nullptr},
+        {L"PresentationElement", make<PresentationElementCfgImpl>},
+        {L"OutputConfig", make<OutputConfigCfgImpl>},
+        {L"UsePresenter", make<UsePresenterCfgImpl>},
         {L"ParamSets", make<ParamSetsCfgImpl>},
         {L"UseXValue", makeUseRefData},
         {L"UseData", makeUseRefData},
-        {L"UseExpression", nullptr},
-        {L"UseEngine", nullptr},
+        {L"UseExpression", make<UseExpressionCfgImpl>},
+        {L"UseEngine", make<UseEngineCfgImpl>},
         {L"UseDouble", makeUseData},
         {L"UseString", makeUseData},
         {L"UseInteger", makeUseData},
@@ -101,12 +124,12 @@ const std::unordered_map<std::wstring, NodeMaker>& kindsByName() {
         {L"Properties", nullptr},
         {L"Property", nullptr},
         {L"Column", nullptr},
-        {L"SelectTables", nullptr},
-        {L"Features", nullptr},
-        {L"ExtraValuesConfig", nullptr},
-        {L"SampleResults", nullptr},
-        {L"SampleFixedResult", nullptr},
-        {L"SampleRefResult", nullptr},
+        {L"SelectTables", make<SelectTablesCfgImpl>},
+        {L"Features", make<FeaturesCfgImpl>},
+        {L"ExtraValuesConfig", make<ExtraValuesConfigCfgImpl>},
+        {L"SampleResults", make<SampleResultsCfgImpl>},
+        {L"SampleFixedResult", make<SampleFixedResultCfgImpl>},
+        {L"SampleRefResult", make<SampleRefResultCfgImpl>},
     };
     return table;
 }
@@ -116,20 +139,37 @@ NodeMaker makerForExpectedKind(INodeCfg::NodeType kind) {
     switch (kind) {
         case INodeCfg::Param:
             return make<ParamCfgImpl>;
+        case INodeCfg::DataCollector:
+            return make<DataCollectorCfgImpl>;
+        case INodeCfg::DataModifier:
+            return make<DataModifierCfgImpl>;
+        case INodeCfg::Feature:
+            return make<FeatureCfgImpl>;
         case INodeCfg::ParamSet:
             return make<ParamSetCfgImpl>;
+        case INodeCfg::Presenter:
+            return make<PresenterCfgImpl>;
         default:
             return nullptr;
     }
 }
 
 // The kind of an element that its name does not decide, by its parent's kind.
-NodeMaker makerForParentKind(INodeCfg::NodeType parentKind, const std::wstring&) {
+NodeMaker makerForParentKind(INodeCfg::NodeType parentKind, const std::wstring& name) {
     switch (parentKind) {
+        case INodeCfg::Features:
+            return make<FeatureCfgImpl>;
         case INodeCfg::ParamSets:
             return make<ParamSetCfgImpl>;
         case INodeCfg::ParamSet:
             return make<ParamCfgImpl>;
+        case INodeCfg::UsePresenter:
+            return make<PresenterCfgImpl>;
+        case INodeCfg::UseDataCollector:
+            return name == L"SampleResults" ? make<SampleResultsCfgImpl>
+                                            : make<DataCollectorCfgImpl>;
+        case INodeCfg::UseDataModifiers:
+            return make<DataModifierCfgImpl>;
         default:
             return makeXNode;
     }
@@ -191,6 +231,10 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     }
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     madeNode_.push_back(false);
+    if (rawFeature_ != nullptr) {
+        rawFeature_->appendValue(L'<' + name + FeatureCfgImpl::attributeText(&copy) + L'>');
+        return kaz::xml::S_OK;
+    }
     if (dataMode_) {
         captured_.startElement(name, readAttributes(&copy));
         return kaz::xml::S_OK;
@@ -202,6 +246,8 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     }
     push(node.get());
     madeNode_.back() = true;
+    // A feature keeps all its content as text, until its own end tag.
+    rawFeature_ = dynamic_cast<IFeatureCfg*>(node.get());
     if (capturesContent(node.release())) {
         dataMode_ = true;
         captured_.clear();
@@ -232,11 +278,16 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
     const bool madeNode = madeNode_.back();
     madeNode_.pop_back();
     if (!madeNode) {
-        if (dataMode_) captured_.endElement(name);
+        if (dataMode_) {
+            captured_.endElement(name);
+        } else if (rawFeature_ != nullptr) {
+            rawFeature_->appendValue(endTag(name));
+        }
         return kaz::xml::S_OK;
     }
     // In data mode the only element with a node is the data element itself.
     if (dataMode_) finishCapture(name);
+    rawFeature_ = nullptr;  // in raw mode only the feature's own element made a node
     INodeCfg* child = pop();
     if (hasOpenElements()) attachToParent(child, name);
     return kaz::xml::S_OK;
@@ -256,12 +307,15 @@ void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wst
 
 long KAZParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
     INodeCfg* node = top();
-    if (!dataMode_ && (node == nullptr || !receivesCharacters(node->getNodeType())))
+    if (!dataMode_ && rawFeature_ == nullptr &&
+        (node == nullptr || !receivesCharacters(node->getNodeType())))
         return kaz::xml::S_OK;
     std::wstring text(chars, static_cast<std::size_t>(length));
     replaceRootDirectory(text);
     if (dataMode_) {
         captured_.characters(text);
+    } else if (rawFeature_ != nullptr) {
+        rawFeature_->appendValue(text);
     } else if (auto* receiver = dynamic_cast<CharacterDataReceiver*>(node)) {
         receiver->appendCharacters(text);
     }
@@ -276,6 +330,8 @@ void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {
             data->setValue(readDataValue(name));
         } else if (auto* reference = dynamic_cast<UseRefDataCfgImpl*>(node)) {
             reference->setReference(captured_.markup());
+        } else if (auto* selection = dynamic_cast<SelectTablesCfgImpl*>(node)) {
+            selection->setContent(captured_.markup());
         }
     } catch (kazexception::IKAZException* e) {
         kazexception::ExceptionGuard guard(e);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "kazparser/IFeatureCfg.h"
 #include "kazparser/INodeCfg.h"
 #include "kazsaxattributesimpl.h"
 #include "markupcapture.h"
@@ -59,6 +60,9 @@ private:
     // Data mode: a data value's or reference's element is open, and its
     // content is captured instead of making nodes.
     bool dataMode_ = false;
+    // Raw mode: the feature whose element is open (the top node); all its
+    // content, nested markup included, is appended to its value as text.
+    IFeatureCfg* rawFeature_ = nullptr;
     MarkupCapture captured_;
 };
 

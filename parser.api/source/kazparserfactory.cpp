@@ -4,17 +4,42 @@
 #include <new>
 
 #include "kazparsercontenthandlerimpl.h"
+#include "datacollectorcfgimpl.h"
+#include "datamodifiercfgimpl.h"
 #include "extparamcfgimpl.h"
 #include "extparamscfgimpl.h"
+#include "inputconfigcfgimpl.h"
+#include "extravaluesconfigcfgimpl.h"
+#include "featurecfgimpl.h"
+#include "featurescfgimpl.h"
 #include "kazparsererrorhandlerimpl.h"
+#include "languagemanager.h"
 #include "languagestringcfgimpl.h"
 #include "markupcapture.h"
+#include "outputconfigcfgimpl.h"
 #include "paramcfgimpl.h"
 #include "paramsetcfgimpl.h"
 #include "paramsetscfgimpl.h"
+#include "presentationelementcfgimpl.h"
+#include "presentationelementscfgimpl.h"
+#include "presentationgroupcfgimpl.h"
+#include "presentercfgimpl.h"
+#include "samplefixedresultcfgimpl.h"
+#include "samplerefresultcfgimpl.h"
+#include "sampleresultscfgimpl.h"
+#include "selecttablescfgimpl.h"
 #include "tablereader.h"
 #include "usedatacfgimpl.h"
+#include "usedatacollectorcfgimpl.h"
+#include "usedatamodifierscfgimpl.h"
+#include "useenginecfgimpl.h"
+#include "useexpressioncfgimpl.h"
+#include "usepresentercfgimpl.h"
+#include "usefixedpresentationelementcfgimpl.h"
 #include "userefdatacfgimpl.h"
+#include "userefpresentationelementcfgimpl.h"
+#include "environmentadapter/IEnvironmentAdapter.h"
+#include "ioutils/IOUtils.h"
 #include "kazxml/PlatformError.h"
 #include "messagesink.h"
 #include "nodeerrors.h"
@@ -357,6 +382,360 @@ IParamSetCfg* KAZConfigFactory::createParamSetCfg(INodeCfg* parent, IXMLDOMNodeP
 
 IParamSetsCfg* KAZConfigFactory::createParamSetsCfg(INodeCfg* parent, IXMLDOMNodePtr node) {
     return createParamSetsCfg(std::move(node), parent);
+}
+
+// Features, extra values and language resources
+
+IFeatureCfg* KAZConfigFactory::createFeatureCfg(const std::wstring* text, INodeCfg* parent) {
+    return createTyped<IFeatureCfg, FeatureCfgImpl>(text, parent, INodeCfg::Feature);
+}
+
+IFeatureCfg* KAZConfigFactory::createFeatureCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createFeatureCfg(&text, parent);
+}
+
+IFeatureCfg* KAZConfigFactory::createFeatureCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createFeatureCfg(&text, parent);
+}
+
+IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(const std::wstring* text, INodeCfg* parent) {
+    return createTyped<IFeaturesCfg, FeaturesCfgImpl>(text, parent, std::nullopt);
+}
+
+IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createFeaturesCfg(&text, parent);
+}
+
+IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createFeaturesCfg(&text, parent);
+}
+
+IExtraValuesConfigCfg* KAZConfigFactory::createExtraValuesConfigCfg(const std::wstring* text,
+                                                                    INodeCfg* parent) {
+    return createTyped<IExtraValuesConfigCfg, ExtraValuesConfigCfgImpl>(text, parent, std::nullopt);
+}
+
+bool KAZConfigFactory::setWorkingLanguageResource(const std::wstring& resource) {
+    return LanguageManager::instance().load(resource);
+}
+
+// Engines, expressions, presenters, input and output configuration
+
+IPresenterCfg* KAZConfigFactory::createPresenterCfg(const std::wstring* text, INodeCfg* parent) {
+    return createTyped<IPresenterCfg, PresenterCfgImpl>(text, parent, INodeCfg::Presenter);
+}
+
+IPresenterCfg* KAZConfigFactory::createPresenterCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createPresenterCfg(&text, parent);
+}
+
+IPresenterCfg* KAZConfigFactory::createPresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createPresenterCfg(&text, parent);
+}
+
+IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(const std::wstring* text,
+                                                          INodeCfg* parent) {
+    return createFromElement<IUsePresenterCfg, UsePresenterCfgImpl>(text, parent, L"UsePresenter");
+}
+
+IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(IXMLDOMDocument2Ptr doc,
+                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUsePresenterCfg(&text, parent);
+}
+
+IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUsePresenterCfg(&text, parent);
+}
+
+IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(const std::wstring* text,
+                                                            INodeCfg* parent) {
+    return createTyped<IUseExpressionCfg, UseExpressionCfgImpl>(text, parent, std::nullopt);
+}
+
+IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMDocument2Ptr doc,
+                                                            INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseExpressionCfg(&text, parent);
+}
+
+IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMNodePtr node,
+                                                            INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseExpressionCfg(&text, parent);
+}
+
+IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(const std::wstring* text, INodeCfg* parent) {
+    return createFromElement<IUseEngineCfg, UseEngineCfgImpl>(text, parent, L"UseEngine");
+}
+
+IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseEngineCfg(&text, parent);
+}
+
+IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseEngineCfg(&text, parent);
+}
+
+ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(const std::wstring* text,
+                                                          INodeCfg* parent) {
+    return createFromElement<ISelectTablesCfg, SelectTablesCfgImpl>(text, parent, L"SelectTables");
+}
+
+ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(IXMLDOMDocument2Ptr doc,
+                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createSelectTablesCfg(&text, parent);
+}
+
+ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createSelectTablesCfg(&text, parent);
+}
+
+IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(const std::wstring* text,
+                                                        INodeCfg* parent) {
+    return createTyped<IInputConfigCfg, InputConfigCfgImpl>(text, parent, std::nullopt);
+}
+
+IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMDocument2Ptr doc,
+                                                        INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createInputConfigCfg(&text, parent);
+}
+
+IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createInputConfigCfg(&text, parent);
+}
+
+IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(const std::wstring* text,
+                                                          INodeCfg* parent) {
+    return createTyped<IOutputConfigCfg, OutputConfigCfgImpl>(text, parent, std::nullopt);
+}
+
+IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(IXMLDOMDocument2Ptr doc,
+                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createOutputConfigCfg(&text, parent);
+}
+
+IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createOutputConfigCfg(&text, parent);
+}
+
+// Plug-ins, sample results, collector and modifier references
+
+IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(const std::wstring* text,
+                                                            INodeCfg* parent) {
+    return createTyped<IDataCollectorCfg, DataCollectorCfgImpl>(text, parent,
+                                                                INodeCfg::DataCollector);
+}
+
+IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMDocument2Ptr doc,
+                                                            INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createDataCollectorCfg(&text, parent);
+}
+
+IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMNodePtr node,
+                                                            INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createDataCollectorCfg(&text, parent);
+}
+
+IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(const std::wstring* text,
+                                                          INodeCfg* parent) {
+    return createTyped<IDataModifierCfg, DataModifierCfgImpl>(text, parent,
+                                                              INodeCfg::DataModifier);
+}
+
+IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(IXMLDOMDocument2Ptr doc,
+                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createDataModifierCfg(&text, parent);
+}
+
+IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createDataModifierCfg(&text, parent);
+}
+
+IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(const std::wstring* text,
+                                                                  INodeCfg* parent) {
+    return createFromElement<IUseDataCollectorCfg, UseDataCollectorCfgImpl>(text, parent,
+                                                                            L"UseDataCollector");
+}
+
+IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(IXMLDOMDocument2Ptr doc,
+                                                                  INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseDataCollectorCfg(&text, parent);
+}
+
+IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(IXMLDOMNodePtr node,
+                                                                  INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseDataCollectorCfg(&text, parent);
+}
+
+IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(const std::wstring* text,
+                                                                  INodeCfg* parent) {
+    return createFromElement<IUseDataModifiersCfg, UseDataModifiersCfgImpl>(text, parent,
+                                                                            L"UseDataModifiers");
+}
+
+IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(IXMLDOMDocument2Ptr doc,
+                                                                  INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseDataModifiersCfg(&text, parent);
+}
+
+IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(IXMLDOMNodePtr node,
+                                                                  INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseDataModifiersCfg(&text, parent);
+}
+
+ISampleResultsCfg* KAZConfigFactory::createSampleResultsCfg(const std::wstring* text,
+                                                            INodeCfg* parent) {
+    return createTyped<ISampleResultsCfg, SampleResultsCfgImpl>(text, parent, std::nullopt);
+}
+
+ISampleFixedResultCfg* KAZConfigFactory::createSampleFixedResultCfg(const std::wstring* text,
+                                                                    INodeCfg* parent) {
+    return createTyped<ISampleFixedResultCfg, SampleFixedResultCfgImpl>(text, parent,
+                                                                        std::nullopt);
+}
+
+ISampleRefResultCfg* KAZConfigFactory::createSampleRefResultCfg(const std::wstring* text,
+                                                                INodeCfg* parent) {
+    return createTyped<ISampleRefResultCfg, SampleRefResultCfgImpl>(text, parent, std::nullopt);
+}
+
+// Presentation elements, references and groups
+
+namespace {
+
+bool isAbsolutePath(const std::wstring& name) {
+    return name.front() == L'/' || name.front() == L'\\' || (name.size() > 1 && name[1] == L':');
+}
+
+// A relative file name is taken under the root directory.
+std::wstring underRootDirectory(const std::wstring& fileName) {
+    if (isAbsolutePath(fileName)) return fileName;
+    std::wstring path = environmentadapter::IEnvironmentAdapter::getInstance().getRootDirectory();
+    if (!path.empty() && path.back() != L'/' && path.back() != L'\\') path += L'/';
+    return path + fileName;
+}
+
+}  // namespace
+
+IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(const std::wstring* text,
+                                                                    INodeCfg* parent) {
+    return createTyped<IPresentationGroupCfg, PresentationGroupCfgImpl>(text, parent, std::nullopt);
+}
+
+IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(IXMLDOMDocument2Ptr doc,
+                                                                    INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createPresentationGroupCfg(&text, parent);
+}
+
+IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(IXMLDOMNodePtr node,
+                                                                    INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createPresentationGroupCfg(&text, parent);
+}
+
+IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(const std::wstring* text,
+                                                                          INodeCfg* parent) {
+    return createFromElement<IPresentationElementsCfg, PresentationElementsCfgImpl>(
+        text, parent, L"PresentationElements");
+}
+
+IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(IXMLDOMDocument2Ptr doc,
+                                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createPresentationElementsCfg(&text, parent);
+}
+
+IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(IXMLDOMNodePtr node,
+                                                                          INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createPresentationElementsCfg(&text, parent);
+}
+
+IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(const std::wstring* text,
+                                                                        INodeCfg* parent) {
+    return createTyped<IPresentationElementCfg, PresentationElementCfgImpl>(text, parent,
+                                                                            std::nullopt);
+}
+
+IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(IXMLDOMDocument2Ptr doc,
+                                                                        INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createPresentationElementCfg(&text, parent);
+}
+
+IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(IXMLDOMNodePtr node,
+                                                                        INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createPresentationElementCfg(&text, parent);
+}
+
+IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(std::wstring fileName,
+                                                                        INodeCfg* parent) {
+    if (fileName.empty()) return createPresentationElementCfg(&fileName, parent);
+    const std::wstring text =
+        ioutils::IOUtilsFactory::createIOUtils()->readTextFile(underRootDirectory(fileName));
+    return createPresentationElementCfg(&text, parent);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg(
+    const std::wstring* text, INodeCfg* parent) {
+    return createTyped<IUsePresentationElementCfg, UseRefPresentationElementCfgImpl>(text, parent,
+                                                                                     std::nullopt);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg(
+    IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseRefPresentationElementCfg(&text, parent);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg(
+    IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseRefPresentationElementCfg(&text, parent);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
+    const std::wstring* text, INodeCfg* parent) {
+    return createTyped<IUsePresentationElementCfg, UseFixedPresentationElementCfgImpl>(
+        text, parent, std::nullopt);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
+    IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
+    const std::wstring text = xmlOf(doc);
+    return createUseFixedPresentationElementCfg(&text, parent);
+}
+
+IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
+    IXMLDOMNodePtr node, INodeCfg* parent) {
+    const std::wstring text = xmlOf(node);
+    return createUseFixedPresentationElementCfg(&text, parent);
 }
 
 }  // namespace kaz::kazparser

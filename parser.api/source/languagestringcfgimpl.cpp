@@ -1,6 +1,7 @@
 #include "languagestringcfgimpl.h"
 
 #include "kazparser/XmlEscaping.h"
+#include "languagemanager.h"
 
 namespace kaz::kazparser {
 
@@ -13,6 +14,12 @@ bool LanguageStringCfgImpl::writeXml(IXmlWriter& out) const {
     std::wstring text = id_;
     escapeText(text);
     return writeText(out, text);
+}
+
+// An unresolved ID is shown as it is, so that a missing text stays visible.
+std::wstring LanguageStringCfgImpl::getDisplayText() const {
+    std::wstring text;
+    return LanguageManager::instance().lookup(id_, text) ? text : id_;
 }
 
 tableobj::IElement::ElementType LanguageStringCfgImpl::getDataType() const {

@@ -8,7 +8,8 @@
 
 namespace kaz::kazparser {
 
-// "UseLanguageString": a string ID, the element's text, written escaped.
+// "UseLanguageString": a string ID, the element's text, written escaped;
+// its display text comes from the working language.
 class LanguageStringCfgImpl final : public LeafNode<ILanguageStringCfg, LanguageStringCfgImpl>,
                                     public CharacterDataReceiver {
 public:
@@ -25,6 +26,7 @@ public:
 
     const std::wstring& getStringID() const override { return id_; }
     void setStringID(const std::wstring& id) override { id_ = id; }
+    std::wstring getDisplayText() const override;
     void appendCharacters(const std::wstring& text) override { id_ += text; }
 
 private:

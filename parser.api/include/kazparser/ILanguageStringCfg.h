@@ -15,6 +15,10 @@ public:
     // The string ID, the element's text; the display text is looked up with it.
     virtual const std::wstring& getStringID() const = 0;
     virtual void setStringID(const std::wstring& id) = 0;
+    // The text of the ID in the working language (the one installed with
+    // KAZConfigFactory::setWorkingLanguageResource); the ID itself when the
+    // working language has no text for it.
+    virtual std::wstring getDisplayText() const = 0;
 };
 
 }  // namespace kaz::kazparser

@@ -4,14 +4,35 @@
 #include <optional>
 #include <string>
 
+#include "kazparser/IDataCollectorCfg.h"
+#include "kazparser/IDataModifierCfg.h"
 #include "kazparser/IExtParamCfg.h"
 #include "kazparser/IExtParamsCfg.h"
+#include "kazparser/IExtraValuesConfigCfg.h"
+#include "kazparser/IFeatureCfg.h"
+#include "kazparser/IFeaturesCfg.h"
+#include "kazparser/IInputConfigCfg.h"
 #include "kazparser/ILanguageStringCfg.h"
 #include "kazparser/INodeCfg.h"
+#include "kazparser/IOutputConfigCfg.h"
 #include "kazparser/IParamCfg.h"
 #include "kazparser/IParamSetCfg.h"
 #include "kazparser/IParamSetsCfg.h"
+#include "kazparser/IPresenterCfg.h"
+#include "kazparser/IPresentationElementCfg.h"
+#include "kazparser/IPresentationElementsCfg.h"
+#include "kazparser/IPresentationGroupCfg.h"
+#include "kazparser/ISampleFixedResultCfg.h"
+#include "kazparser/ISampleRefResultCfg.h"
+#include "kazparser/ISampleResultsCfg.h"
+#include "kazparser/ISelectTablesCfg.h"
 #include "kazparser/IUseDataCfg.h"
+#include "kazparser/IUseDataCollectorCfg.h"
+#include "kazparser/IUseDataModifiersCfg.h"
+#include "kazparser/IUseEngineCfg.h"
+#include "kazparser/IUseExpressionCfg.h"
+#include "kazparser/IUsePresentationElementCfg.h"
+#include "kazparser/IUsePresenterCfg.h"
 #include "kazparser/IUseRefDataCfg.h"
 #include "kazparser/IXNodeCfg.h"
 #include "kazparser/IXValueCfg.h"
@@ -94,6 +115,122 @@ public:
     static IUseRefDataCfg* createUseRefDataCfg(tableobj::IElement::ElementType type,
                                                IXMLDOMNodePtr node, INodeCfg* parent);
     static ILanguageStringCfg* createLanguageStringCfg(const std::wstring* text, INodeCfg* parent);
+
+    // Features, extra values and language resources
+    // A null or empty text gives the empty node of the kind (a feature named
+    // "Feature"). A Feature element may have any name: the text's root
+    // element is read as a feature, its content kept as the value. A root
+    // element of another kind gives null.
+    static IFeatureCfg* createFeatureCfg(const std::wstring* text, INodeCfg* parent);
+    static IFeatureCfg* createFeatureCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IFeatureCfg* createFeatureCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IFeaturesCfg* createFeaturesCfg(const std::wstring* text, INodeCfg* parent);
+    static IFeaturesCfg* createFeaturesCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IFeaturesCfg* createFeaturesCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IExtraValuesConfigCfg* createExtraValuesConfigCfg(const std::wstring* text,
+                                                             INodeCfg* parent);
+    // Installs the working language from an XML text: every element below
+    // the document element with a non-empty "id" gives its text under that
+    // ID (a repeated ID keeps the later text). An empty or malformed text
+    // answers false and keeps the working language as it was.
+    static bool setWorkingLanguageResource(const std::wstring& resource);
+
+    // Engines, expressions, presenters, input and output configuration
+    // A null or empty text gives the empty node of the kind. A Presenter
+    // element may have any name: the text's root element is read as a
+    // presenter. UsePresenter, UseEngine and SelectTables are built from the
+    // first element of that name in the text. A root element of another
+    // kind gives null.
+    static IPresenterCfg* createPresenterCfg(const std::wstring* text, INodeCfg* parent);
+    static IPresenterCfg* createPresenterCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IPresenterCfg* createPresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IUsePresenterCfg* createUsePresenterCfg(const std::wstring* text, INodeCfg* parent);
+    static IUsePresenterCfg* createUsePresenterCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IUsePresenterCfg* createUsePresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IUseExpressionCfg* createUseExpressionCfg(const std::wstring* text, INodeCfg* parent);
+    static IUseExpressionCfg* createUseExpressionCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IUseExpressionCfg* createUseExpressionCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IUseEngineCfg* createUseEngineCfg(const std::wstring* text, INodeCfg* parent);
+    static IUseEngineCfg* createUseEngineCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IUseEngineCfg* createUseEngineCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static ISelectTablesCfg* createSelectTablesCfg(const std::wstring* text, INodeCfg* parent);
+    static ISelectTablesCfg* createSelectTablesCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static ISelectTablesCfg* createSelectTablesCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IInputConfigCfg* createInputConfigCfg(const std::wstring* text, INodeCfg* parent);
+    static IInputConfigCfg* createInputConfigCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IInputConfigCfg* createInputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IOutputConfigCfg* createOutputConfigCfg(const std::wstring* text, INodeCfg* parent);
+    static IOutputConfigCfg* createOutputConfigCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IOutputConfigCfg* createOutputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+
+    // Plug-ins, sample results, collector and modifier references
+    // A null or empty text gives the empty node of the kind. DataCollector
+    // and DataModifier elements may have any name: the text's root element is
+    // read as that kind. UseDataCollector and UseDataModifiers are built from
+    // the first element of that name in the text. A root element of another
+    // kind gives null.
+    static IDataCollectorCfg* createDataCollectorCfg(const std::wstring* text, INodeCfg* parent);
+    static IDataCollectorCfg* createDataCollectorCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IDataCollectorCfg* createDataCollectorCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IDataModifierCfg* createDataModifierCfg(const std::wstring* text, INodeCfg* parent);
+    static IDataModifierCfg* createDataModifierCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+    static IDataModifierCfg* createDataModifierCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IUseDataCollectorCfg* createUseDataCollectorCfg(const std::wstring* text,
+                                                           INodeCfg* parent);
+    static IUseDataCollectorCfg* createUseDataCollectorCfg(IXMLDOMDocument2Ptr doc,
+                                                           INodeCfg* parent);
+    static IUseDataCollectorCfg* createUseDataCollectorCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IUseDataModifiersCfg* createUseDataModifiersCfg(const std::wstring* text,
+                                                           INodeCfg* parent);
+    static IUseDataModifiersCfg* createUseDataModifiersCfg(IXMLDOMDocument2Ptr doc,
+                                                           INodeCfg* parent);
+    static IUseDataModifiersCfg* createUseDataModifiersCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static ISampleResultsCfg* createSampleResultsCfg(const std::wstring* text, INodeCfg* parent);
+    static ISampleFixedResultCfg* createSampleFixedResultCfg(const std::wstring* text,
+                                                             INodeCfg* parent);
+    static ISampleRefResultCfg* createSampleRefResultCfg(const std::wstring* text,
+                                                         INodeCfg* parent);
+
+    // Presentation elements, references and groups
+    // A null or empty text gives the empty node of the kind. PresentationElements
+    // is built from the first element of that name in the text. Both
+    // reference forms answer the reference the root element names, fixed or
+    // file. A root element of another kind gives null.
+    static IPresentationGroupCfg* createPresentationGroupCfg(const std::wstring* text,
+                                                             INodeCfg* parent);
+    static IPresentationGroupCfg* createPresentationGroupCfg(IXMLDOMDocument2Ptr doc,
+                                                             INodeCfg* parent);
+    static IPresentationGroupCfg* createPresentationGroupCfg(IXMLDOMNodePtr node, INodeCfg* parent);
+    static IPresentationElementsCfg* createPresentationElementsCfg(const std::wstring* text,
+                                                                   INodeCfg* parent);
+    static IPresentationElementsCfg* createPresentationElementsCfg(IXMLDOMDocument2Ptr doc,
+                                                                   INodeCfg* parent);
+    static IPresentationElementsCfg* createPresentationElementsCfg(IXMLDOMNodePtr node,
+                                                                   INodeCfg* parent);
+    static IPresentationElementCfg* createPresentationElementCfg(const std::wstring* text,
+                                                                 INodeCfg* parent);
+    static IPresentationElementCfg* createPresentationElementCfg(IXMLDOMDocument2Ptr doc,
+                                                                 INodeCfg* parent);
+    static IPresentationElementCfg* createPresentationElementCfg(IXMLDOMNodePtr node,
+                                                                 INodeCfg* parent);
+    // Reads the file `fileName` (a relative name is taken under the root
+    // directory of the environment adapter) and builds the element its text
+    // holds, as the text form does. An empty name gives the empty element;
+    // a file that cannot be read raises the invalid-data error naming it.
+    static IPresentationElementCfg* createPresentationElementCfg(std::wstring fileName,
+                                                                 INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseRefPresentationElementCfg(const std::wstring* text,
+                                                                          INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseRefPresentationElementCfg(IXMLDOMDocument2Ptr doc,
+                                                                          INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseRefPresentationElementCfg(IXMLDOMNodePtr node,
+                                                                          INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseFixedPresentationElementCfg(
+        const std::wstring* text, INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseFixedPresentationElementCfg(IXMLDOMDocument2Ptr doc,
+                                                                            INodeCfg* parent);
+    static IUsePresentationElementCfg* createUseFixedPresentationElementCfg(IXMLDOMNodePtr node,
+                                                                            INodeCfg* parent);
 
     // Installs the receiver of shown messages and answers the previous one.
     // The default writes "caption: text" and a line break to standard error.

@@ -1,0 +1,58 @@
+#include "featurecfgimpl.h"
+
+#include "kazxml/PlatformError.h"
+#include "saxattributes.h"
+
+namespace kaz::kazparser {
+namespace {
+
+const std::wstring& defaultName() {
+    static const std::wstring name = L"Feature";
+    return name;
+}
+
+std::wstring localName(kaz::xml::ISAXAttributes& attributes, int index) {
+    const wchar_t* name = nullptr;
+    int length = 0;
+    const long result = attributes.getLocalName(index, &name, &length);
+    if (kaz::xml::failed(result))
+        throw kaz::xml::PlatformError(result, L"ISAXAttributes::getLocalName failed",
+                                      L"kaz::xml::ISAXAttributes");
+    return std::wstring(name, static_cast<std::size_t>(length));
+}
+
+}  // namespace
+
+FeatureCfgImpl::FeatureCfgImpl(INodeCfg* parent) : LeafNode(parent), name_(defaultName()) {}
+
+FeatureCfgImpl::FeatureCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
+                               INodeCfg* parent)
+    : LeafNode(parent), name_(name), attributesText_(attributeText(attributes)) {}
+
+std::wstring FeatureCfgImpl::attributeText(kaz::xml::ISAXAttributes* attributes) {
+    std::wstring text;
+    if (attributes == nullptr) return text;
+    const int count = attributeCount(*attributes);
+    for (int i = 0; i < count; ++i)
+        text += L' ' + localName(*attributes, i) + L"=\"" + attributeValue(*attributes, i) + L'"';
+    return text;
+}
+
+// A name set empty still writes a well-formed tag.
+const std::wstring& FeatureCfgImpl::getName() const {
+    return name_.empty() ? defaultName() : name_;
+}
+
+bool FeatureCfgImpl::writeXml(IXmlWriter& out) const {
+    const std::wstring& name = getName();
+    out.write(L'<' + name + attributesText_ + L'>');
+    if (!value_.empty()) out.write(value_);
+    return out.write(endTag(name));
+}
+
+bool FeatureCfgImpl::setValue(const std::wstring& value) {
+    value_ = value;
+    return true;
+}
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "kazparser/IPresentationGroupCfg.h"
+#include "kazxml/SAX.h"
+#include "presentationnode.h"
+
+namespace kaz::kazparser {
+
+// "PresentationGroup": the top of a presentation configuration, with its
+// features, extra values, element list and a preview image.
+class PresentationGroupCfgImpl final
+    : public PresentationNode<IPresentationGroupCfg, PresentationGroupCfgImpl> {
+public:
+    static constexpr const wchar_t* kClassName = L"kaz::kazparser::PresentationGroupCfgImpl";
+    static constexpr NodeType kNodeType = PresentationGroup;
+    static const std::wstring& tag();
+
+    explicit PresentationGroupCfgImpl(INodeCfg* parent) : PresentationNode(parent) {}
+    // Reads the element's attributes and "previewImg"; others are ignored.
+    PresentationGroupCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+        : PresentationGroupCfgImpl(readAttributes(attributes), parent) {}
+
+    INodeCfg* clone() const override { return new PresentationGroupCfgImpl(*this); }
+    bool writeXml(IXmlWriter& out) const override;
+    void deleteChildren() override;
+    bool setChild(INodeCfg* child) override;
+
+    IPresentationElementsCfg* getPresentationElements() const override { return elements_.get(); }
+    void setPresentationElements(IPresentationElementsCfg* elements) override;
+    IPresentationElementsCfg* releasePresentationElements() override { return elements_.release(); }
+    IPresentationElementsCfg* replacePresentationElements(
+        IPresentationElementsCfg* elements) override;
+
+    const std::wstring& getPreviewImg() const override { return previewImg_; }
+    bool setPreviewImg(const std::wstring& image) override;
+    void setName(const std::wstring& name) override { name_ = name; }
+    void setDesc(const std::wstring& desc) override { desc_ = desc; }
+    void setSchemaVersion(const std::wstring& version) override { schemaVersion_ = version; }
+
+    std::array<INodeCfg*, 3> childSlots() const;
+
+private:
+    PresentationGroupCfgImpl(const AttributeList& attributes, INodeCfg* parent);
+    PresentationGroupCfgImpl(const PresentationGroupCfgImpl& other);
+
+    std::wstring previewImg_;
+    ChildSlot<IPresentationElementsCfg> elements_;
+};
+
+}  // namespace kaz::kazparser

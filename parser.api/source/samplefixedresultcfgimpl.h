@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "guardedslot.h"
+#include "kazparser/ISampleFixedResultCfg.h"
+#include "kazxml/SAX.h"
+#include "sampleresultnode.h"
+
+namespace kaz::kazparser {
+
+// "SampleFixedResult": a sample entry holding its value as at most one data
+// node. It reads "name" and "desc".
+class SampleFixedResultCfgImpl final
+    : public SampleResultNode<ISampleFixedResultCfg, SampleFixedResultCfgImpl> {
+public:
+    static constexpr const wchar_t* kClassName = L"kaz::kazparser::SampleFixedResultCfgImpl";
+    static constexpr const wchar_t* kElementName = L"SampleFixedResult";
+    static constexpr NodeType kNodeType = SampleFixedResult;
+
+    explicit SampleFixedResultCfgImpl(INodeCfg* parent) : SampleResultNode(parent) {}
+    SampleFixedResultCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+        : SampleResultNode(readAttributes(attributes), parent) {}
+
+    INodeCfg* clone() const override { return new SampleFixedResultCfgImpl(*this); }
+    INodeCfg* getChild(unsigned int index) const override;
+    unsigned int getChildCount() const override { return data_ ? 1u : 0u; }
+    void deleteChildren() override { data_.reset(); }
+    // Takes a data node without deleting the previous one or re-parenting
+    // the new one; anything else raises "Invalid argument".
+    bool setChild(INodeCfg* child) override;
+
+    IUseDataCfg* getData() const override { return data_.get(); }
+    void setData(IUseDataCfg* data) override;
+
+    void addAttributes(StartTag&) const {}
+
+private:
+    // Copies the texts and the data node, not the displaced nodes.
+    SampleFixedResultCfgImpl(const SampleFixedResultCfgImpl& other);
+
+    // `data` stops being displaced when it is taken back.
+    void readopt(const IUseDataCfg* data);
+
+    GuardedSlot<IUseDataCfg> data_;
+    // Data nodes that setChild displaced: detached and no longer children,
+    // but kept alive until this entry goes, so that none is left ownerless.
+    std::vector<std::unique_ptr<IUseDataCfg>> displaced_;
+};
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,76 @@
+#include "sampleresultscfgimpl.h"
+
+#include "saxattributes.h"
+#include "xmltags.h"
+
+namespace kaz::kazparser {
+
+SampleResultsCfgImpl::SampleResultsCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+    : NodeCollection(parent) {
+    for (const auto& [qName, value] : readAttributes(attributes))
+        if (qName == L"name") name_ = value;
+}
+
+SampleResultsCfgImpl::SampleResultsCfgImpl(const SampleResultsCfgImpl& other)
+    : NodeCollection(other), name_(other.name_) {
+    reindex();
+}
+
+const std::wstring& SampleResultsCfgImpl::getName() const {
+    static const std::wstring name = L"SampleResults";
+    return name;
+}
+
+bool SampleResultsCfgImpl::writeXml(IXmlWriter& out) const {
+    const std::wstring& element = getName();
+    return writeElement(out, StartTag(element).text(L"name", name_).str(), element);
+}
+
+// Each change goes through the shared list rules first, so that a refused
+// call leaves the index as it was.
+unsigned int SampleResultsCfgImpl::append(INodeCfg* item) {
+    const unsigned int count = NodeCollection::append(item);
+    reindex();
+    return count;
+}
+
+unsigned int SampleResultsCfgImpl::insert(INodeCfg* item, unsigned int index) {
+    NodeCollection::insert(item, index);
+    reindex();
+    return index;
+}
+
+INodeCfg* SampleResultsCfgImpl::replace(INodeCfg* item, unsigned int index) {
+    INodeCfg* previous = NodeCollection::replace(item, index);
+    reindex();
+    return previous;
+}
+
+INodeCfg* SampleResultsCfgImpl::remove(unsigned int index) {
+    INodeCfg* item = NodeCollection::remove(index);
+    reindex();
+    return item;
+}
+
+void SampleResultsCfgImpl::deleteChildren() {
+    index_.clear();
+    NodeCollection::deleteChildren();
+}
+
+bool SampleResultsCfgImpl::hasSampleResult(const std::wstring& name) const {
+    return index_.count(name) != 0;
+}
+
+ISampleResultCfg* SampleResultsCfgImpl::operator[](const std::wstring& name) const {
+    if (!hasSampleResult(name)) errors::notChildName(name, KAZ_HERE(kClassName, L"operator []"));
+    return index_.at(name);
+}
+
+// Rebuilt from the list, so that the index never names an entry the list
+// no longer holds; a later entry of the same name wins.
+void SampleResultsCfgImpl::reindex() {
+    index_.clear();
+    for (ISampleResultCfg* item : items()) index_[item->getSampleName()] = item;
+}
+
+}  // namespace kaz::kazparser

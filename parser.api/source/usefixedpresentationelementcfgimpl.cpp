@@ -1,0 +1,40 @@
+#include "usefixedpresentationelementcfgimpl.h"
+
+namespace kaz::kazparser {
+
+const std::wstring& UseFixedPresentationElementCfgImpl::tag() {
+    static const std::wstring name = L"UseFixedPresentationElement";
+    return name;
+}
+
+UseFixedPresentationElementCfgImpl::UseFixedPresentationElementCfgImpl(
+    const UseFixedPresentationElementCfgImpl& other)
+    : UsePresentationElementNode(other) {
+    element_.cloneFrom(other.element_, this);
+}
+
+void UseFixedPresentationElementCfgImpl::deleteChildren() {
+    UsePresentationElementNode::deleteChildren();
+    element_.reset();
+}
+
+bool UseFixedPresentationElementCfgImpl::setChild(INodeCfg* child) {
+    fixedchildren::required(child, kClassName, L"setChild");
+    switch (child->getNodeType()) {
+        case ExtParams:
+            setExtParams(dynamic_cast<IExtParamsCfg*>(child));
+            return true;
+        case PresentationElement:
+            setPresentationElement(dynamic_cast<IPresentationElementCfg*>(child));
+            return true;
+        default:
+            return false;
+    }
+}
+
+void UseFixedPresentationElementCfgImpl::setPresentationElement(IPresentationElementCfg* element) {
+    fixedchildren::adopt(
+        element_, fixedchildren::required(element, kClassName, L"setPresentationElement"), this);
+}
+
+}  // namespace kaz::kazparser

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "kazparser/IUseRefPresentationElementCfg.h"
+#include "kazxml/SAX.h"
+#include "usepresentationelementnode.h"
+
+namespace kaz::kazparser {
+
+// "UseRefPresentationElement": a list entry naming the file that holds its
+// element.
+class UseRefPresentationElementCfgImpl final
+    : public UsePresentationElementNode<IUseRefPresentationElementCfg,
+                                        UseRefPresentationElementCfgImpl> {
+public:
+    static constexpr const wchar_t* kClassName =
+        L"kaz::kazparser::UseRefPresentationElementCfgImpl";
+    static constexpr NodeType kNodeType = UseRefPresentationElement;
+    static const std::wstring& tag();
+
+    explicit UseRefPresentationElementCfgImpl(INodeCfg* parent)
+        : UsePresentationElementNode(parent) {}
+    // Reads the fixed reference's attributes and "refFileName".
+    UseRefPresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+        : UseRefPresentationElementCfgImpl(readAttributes(attributes), parent) {}
+
+    INodeCfg* clone() const override { return new UseRefPresentationElementCfgImpl(*this); }
+    bool writeXml(IXmlWriter& out) const override { return writeReference(out, refFileName_); }
+    // Never answers false: anything but extension parameters (null too)
+    // reaches setExtParams as null and raises there.
+    bool setChild(INodeCfg* child) override {
+        setExtParams(dynamic_cast<IExtParamsCfg*>(child));
+        return true;
+    }
+
+    bool setRefFileName(const std::wstring& fileName) override;
+    const std::wstring& getRefFileName() const override { return refFileName_; }
+
+    std::array<INodeCfg*, 1> childSlots() const { return {extParams_.get()}; }
+
+private:
+    UseRefPresentationElementCfgImpl(const AttributeList& attributes, INodeCfg* parent);
+    UseRefPresentationElementCfgImpl(const UseRefPresentationElementCfgImpl& other) = default;
+
+    std::wstring refFileName_;
+};
+
+}  // namespace kaz::kazparser

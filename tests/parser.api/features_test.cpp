@@ -1,0 +1,102 @@
+// Feature lists: names taken once, the name index after every change, and
+// features that keep their whole content as text.
+
+#include <tuple>
+
+#include "testsupport.h"
+
+namespace {
+
+using namespace kaztest;
+using kaz::kazparser::IFeatureCfg;
+using kaz::kazparser::IFeaturesCfg;
+using kaz::kazparser::KAZConfigFactory;
+using kaz::kazparser::kNoPosition;
+
+NodePtr<IFeaturesCfg> readList(const std::wstring& text) {
+    return NodePtr<IFeaturesCfg>(KAZConfigFactory::createFeaturesCfg(&text, nullptr));
+}
+
+IFeatureCfg* newFeature(const std::wstring& name) {
+    IFeatureCfg* feature = KAZConfigFactory::createFeatureCfg(nullptr, nullptr);
+    feature->setName(name);
+    return feature;
+}
+
+const std::wstring kABC = L"<Features><A>1</A><B>2</B><C>3</C></Features>";
+
+class FeaturesTest : public LeakCheckedTest {};
+
+TEST_F(FeaturesTest, ANameIsTakenOnceAndRefusedSilently) {
+    auto list = readList(L"<Features><A>first</A><A>second</A><B/></Features>");
+    EXPECT_EQ(list->toXml(), L"<Features><A>first</A><B></B></Features>");
+    NodePtr<IFeatureCfg> duplicate(newFeature(L"A"));
+    EXPECT_EQ(list->append(duplicate.get()), kNoPosition);
+    EXPECT_FALSE(list->setChild(duplicate.get()));
+    EXPECT_EQ(list->insert(duplicate.get(), 1), 1u) << "refused, yet the index is answered";
+    EXPECT_EQ(list->replace(duplicate.get(), 1u), nullptr);
+    EXPECT_EQ(duplicate->getParent(), nullptr);
+    EXPECT_EQ(list->getCount(), 2u);
+    // At the position of a feature of the same name the name is accepted.
+    IFeatureCfg* again = newFeature(L"A");
+    NodePtr<IFeatureCfg> old(list->replace(again, L"A"));
+    EXPECT_EQ(old->getValue(), L"first");
+    EXPECT_EQ(old->getParent(), nullptr);
+    EXPECT_EQ((*list)[L"A"], again);
+}
+
+TEST_F(FeaturesTest, TheIndexFollowsEveryChangeOfPositions) {
+    auto list = readList(kABC);
+    NodePtr<> removed(list->remove(0u));
+    const auto chain = thrownChain([&] { (*list)[L"A"]; });
+    ASSERT_EQ(chain.size(), 1u);
+    EXPECT_EQ(chain[0].message, L"A is not the name of child object");
+    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::FeaturesCfgImpl::operator []");
+    EXPECT_EQ((*list)[L"C"], list->getChild(1));
+    IFeatureCfg* d = newFeature(L"D");
+    list->insert(d, 1);
+    EXPECT_EQ((*list)[L"C"], list->getChild(2));
+    // A second D, put before the first: the later position is indexed.
+    list->insert(newFeature(L"D"), 1);
+    EXPECT_EQ((*list)[L"D"], d);
+    NodePtr<IFeaturesCfg> copy(dynamic_cast<IFeaturesCfg*>(list->clone()));
+    EXPECT_EQ((*copy)[L"D"], copy->getChild(2));
+    NodePtr<IFeatureCfg> taken(list->remove(L"B"));
+    EXPECT_EQ((*list)[L"C"], list->getChild(2));
+}
+
+// Everything inside a feature is its value: nested markup with its
+// attributes as read, entities and CDATA as the reader delivered them.
+TEST_F(FeaturesTest, FeaturesKeepTheirWholeContentAsText) {
+    const std::vector<std::tuple<std::wstring, std::wstring, std::wstring>> cases = {
+        {L"<Label mode=\"a&amp;b\" size=\"2\">Hello</Label>", L"Hello",
+         L"<Label mode=\"a&b\" size=\"2\">Hello</Label>"},
+        {L"<F>x<g k=\"&lt;1\"><h/>t</g>y</F>", L"x<g k=\"<1\"><h></h>t</g>y",
+         L"<F>x<g k=\"<1\"><h></h>t</g>y</F>"},
+        {L"<F>a&lt;b&amp;c<![CDATA[<d>]]>&#65;</F>", L"a<b&c<d>A", L"<F>a<b&c<d>A</F>"},
+        {L"<F><F>in</F>out</F>", L"<F>in</F>out", L"<F><F>in</F>out</F>"},
+    };
+    for (const auto& [text, value, written] : cases) {
+        SCOPED_TRACE(testing::PrintToString(text));
+        auto list = readList(L"<Features>" + text + L"<Next/></Features>");
+        ASSERT_EQ(list->getCount(), 2u) << "raw mode ends at the feature's own end tag";
+        EXPECT_EQ(dynamic_cast<IFeatureCfg*>(list->getChild(0))->getValue(), value);
+        EXPECT_EQ(list->getChild(0)->toXml(), written);
+        NodePtr<IFeatureCfg> alone(KAZConfigFactory::createFeatureCfg(&text, list.get()));
+        EXPECT_EQ(alone->toXml(), written);
+        EXPECT_EQ(alone->getParent(), list.get());
+    }
+    NodePtr<IFeatureCfg> empty(KAZConfigFactory::createFeatureCfg(nullptr, nullptr));
+    EXPECT_EQ(empty->toXml(), L"<Feature></Feature>");
+}
+
+TEST_F(FeaturesTest, FailedAllocationsWhileReadingFeaturesFreeEverything) {
+    const std::wstring text =
+        L"<Holder><Features><A k=\"v\">x<n/></A><A/><B>y</B></Features>"
+        L"<ExtraValuesConfig><XValue name=\"w\"><UseDouble>1</UseDouble></XValue>"
+        L"</ExtraValuesConfig></Holder>";
+    expectNothingLeaksUnderAllocationFailures(
+        [&] { NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr)); });
+}
+
+}  // namespace
