@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
+#include "childslot.h"
 #include "fixedchildren.h"
-#include "guardedslot.h"
 #include "kazparser/IUseDataCfg.h"
 #include "kazparser/IUseDataCollectorCfg.h"
 #include "kazparser/IUseDataModifiersCfg.h"
@@ -116,9 +116,9 @@ private:
         return {input, modifiers_.get()};
     }
 
-    GuardedSlot<IUseDataCollectorCfg> collector_;
-    GuardedSlot<IUseDataCfg> tables_;
-    GuardedSlot<IUseDataModifiersCfg> modifiers_;
+    ChildSlot<IUseDataCollectorCfg> collector_;
+    ChildSlot<IUseDataCfg> tables_;
+    ChildSlot<IUseDataModifiersCfg> modifiers_;
 };
 
 }  // namespace kaz::kazparser

@@ -18,16 +18,22 @@ public:
     explicit operator bool() const { return child_ != nullptr; }
 
     // Deletes the current child and adopts `child`, made a child of `owner`
-    // unless `owner` is null.
+    // unless `owner` is null. Setting the child already held keeps it
+    // (deleting it would leave the slot dangling).
     void set(T* child, INodeCfg* owner) {
-        reset();
+        if (child != child_) reset();
         child_ = child;
         if (child_ != nullptr && owner != nullptr) child_->setParent(owner);
     }
 
     // Adopts `child` (re-parented to `owner` unless it is null) and hands
-    // back the previous child detached.
+    // back the previous child detached. Replacing the child already held by
+    // itself hands nothing back, so that no node has two owners.
     T* replace(T* child, INodeCfg* owner) {
+        if (child != nullptr && child == child_) {
+            if (owner != nullptr) child->setParent(owner);
+            return nullptr;
+        }
         T* previous = child_;
         child_ = child;
         if (child_ != nullptr && owner != nullptr) child_->setParent(owner);

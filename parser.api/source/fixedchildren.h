@@ -17,27 +17,6 @@ T* required(T* child, const wchar_t* className, const wchar_t* method) {
     return child;
 }
 
-// Deletes the slot's child and adopts `child`, made a child of `owner`
-// unless that is null. Setting the child the slot already holds keeps it:
-// deleting it would leave the slot dangling.
-template <class T>
-void adopt(ChildSlot<T>& slot, T* child, INodeCfg* owner) {
-    if (child != slot.get()) {
-        slot.set(child, owner);
-    } else if (owner != nullptr) {
-        child->setParent(owner);
-    }
-}
-
-// Adopts `child` and hands back the previous child detached. Replacing a
-// child by itself hands back nothing, so that no node has two owners.
-template <class T>
-T* exchange(ChildSlot<T>& slot, T* child, INodeCfg* owner) {
-    if (child != slot.get()) return slot.replace(child, owner);
-    if (owner != nullptr) child->setParent(owner);
-    return nullptr;
-}
-
 // The present nodes among `slots` are the child positions, in slot order.
 template <std::size_t N>
 unsigned int presentCount(const std::array<INodeCfg*, N>& slots) {

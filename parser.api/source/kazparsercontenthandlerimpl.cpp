@@ -21,13 +21,13 @@
 #include "paramcfgimpl.h"
 #include "paramsetcfgimpl.h"
 #include "paramsetscfgimpl.h"
-#include "samplefixedresultcfgimpl.h"
-#include "samplerefresultcfgimpl.h"
-#include "sampleresultscfgimpl.h"
 #include "presentationelementcfgimpl.h"
 #include "presentationelementscfgimpl.h"
 #include "presentationgroupcfgimpl.h"
 #include "presentercfgimpl.h"
+#include "samplefixedresultcfgimpl.h"
+#include "samplerefresultcfgimpl.h"
+#include "sampleresultscfgimpl.h"
 #include "selecttablescfgimpl.h"
 #include "tablereader.h"
 #include "usedatacfgimpl.h"
@@ -187,7 +187,9 @@ const std::wstring kRootDirectoryMacro = L"[Kestrelon.RootDirectory]";
 KAZParserContentHandlerImpl::KAZParserContentHandlerImpl(INodeCfg* parent)
     : NodeStackHandler(parent) {}
 
-KAZParserContentHandlerImpl::~KAZParserContentHandlerImpl() { freeRefused(); }
+KAZParserContentHandlerImpl::~KAZParserContentHandlerImpl() {
+    freeRefused();
+}
 
 long KAZParserContentHandlerImpl::endDocument() {
     freeRefused();

@@ -9,7 +9,8 @@ namespace {
 
 void checkLocator(long result, const wchar_t* operation) {
     if (kaz::xml::failed(result))
-        throw kaz::xml::PlatformError(result, std::wstring(L"ISAXLocator::") + operation + L" failed",
+        throw kaz::xml::PlatformError(result,
+                                      std::wstring(L"ISAXLocator::") + operation + L" failed",
                                       L"kaz::xml::ISAXLocator");
 }
 
@@ -39,7 +40,8 @@ long KAZParserErrorHandlerImpl::report(kaz::xml::ISAXLocator* locator, const wch
     }
     std::wostringstream text;
     text << L"\nError : " << static_cast<int>(code) << L"\nLine : " << line << L"\nCharacter : "
-         << column << L"\n" << (message != nullptr ? message : L"") << L"\n";
+         << column << L"\n"
+         << (message != nullptr ? message : L"") << L"\n";
     errorText_ += text.str();
     errorFlag_ = 1;
     return kaz::xml::S_OK;

@@ -3,19 +3,24 @@
 #include <memory>
 #include <new>
 
-#include "kazparsercontenthandlerimpl.h"
 #include "datacollectorcfgimpl.h"
 #include "datamodifiercfgimpl.h"
+#include "environmentadapter/IEnvironmentAdapter.h"
 #include "extparamcfgimpl.h"
 #include "extparamscfgimpl.h"
-#include "inputconfigcfgimpl.h"
 #include "extravaluesconfigcfgimpl.h"
 #include "featurecfgimpl.h"
 #include "featurescfgimpl.h"
+#include "inputconfigcfgimpl.h"
+#include "ioutils/IOUtils.h"
+#include "kazparsercontenthandlerimpl.h"
 #include "kazparsererrorhandlerimpl.h"
+#include "kazxml/PlatformError.h"
 #include "languagemanager.h"
 #include "languagestringcfgimpl.h"
 #include "markupcapture.h"
+#include "messagesink.h"
+#include "nodeerrors.h"
 #include "outputconfigcfgimpl.h"
 #include "paramcfgimpl.h"
 #include "paramsetcfgimpl.h"
@@ -34,15 +39,10 @@
 #include "usedatamodifierscfgimpl.h"
 #include "useenginecfgimpl.h"
 #include "useexpressioncfgimpl.h"
-#include "usepresentercfgimpl.h"
 #include "usefixedpresentationelementcfgimpl.h"
+#include "usepresentercfgimpl.h"
 #include "userefdatacfgimpl.h"
 #include "userefpresentationelementcfgimpl.h"
-#include "environmentadapter/IEnvironmentAdapter.h"
-#include "ioutils/IOUtils.h"
-#include "kazxml/PlatformError.h"
-#include "messagesink.h"
-#include "nodeerrors.h"
 #include "xparsercontenthandlerimpl.h"
 #include "xvaluecfgimpl.h"
 
@@ -109,8 +109,8 @@ INodeCfg* KAZConfigFactory::createNodeCfg(const std::wstring* text, INodeCfg* pa
             return content.takeLastEnded();
         }
     } catch (IKAZException* e) {
-        errors::parsing(L"Configure invalid at 'createNodeCfg'", KAZ_HERE(kClassName, L"createNodeCfg"),
-                        e);
+        errors::parsing(L"Configure invalid at 'createNodeCfg'",
+                        KAZ_HERE(kClassName, L"createNodeCfg"), e);
     }
 }
 
@@ -130,8 +130,8 @@ IXNodeCfg* KAZConfigFactory::createXNodeCfg(const std::wstring* text, INodeCfg* 
         if (node != nullptr) root.release();
         return node;
     } catch (IKAZException* e) {
-        errors::parsing(L"Configure invalid at 'createXNodeCfg'", KAZ_HERE(kClassName, L"createXNodeCfg"),
-                        e);
+        errors::parsing(L"Configure invalid at 'createXNodeCfg'",
+                        KAZ_HERE(kClassName, L"createXNodeCfg"), e);
     }
 }
 
@@ -163,7 +163,9 @@ KAZConfigFactory::MessageHandler KAZConfigFactory::setMessageHandler(MessageHand
     return installMessageHandler(std::move(handler));
 }
 
-IXMLDOMDocument2Ptr KAZConfigFactory::createXMLDocument() { return kaz::xml::Document::create(); }
+IXMLDOMDocument2Ptr KAZConfigFactory::createXMLDocument() {
+    return kaz::xml::Document::create();
+}
 
 bool KAZConfigFactory::loadXMLContent(IXMLDOMDocument2Ptr doc, const std::wstring& text) {
     return doc != nullptr && doc->loadXML(text);
@@ -466,8 +468,7 @@ IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMDocument2Ptr 
     return createUseExpressionCfg(&text, parent);
 }
 
-IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMNodePtr node,
-                                                            INodeCfg* parent) {
+IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
     const std::wstring text = xmlOf(node);
     return createUseExpressionCfg(&text, parent);
 }
@@ -507,8 +508,7 @@ IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(const std::wstring* text
     return createTyped<IInputConfigCfg, InputConfigCfgImpl>(text, parent, std::nullopt);
 }
 
-IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMDocument2Ptr doc,
-                                                        INodeCfg* parent) {
+IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
     const std::wstring text = xmlOf(doc);
     return createInputConfigCfg(&text, parent);
 }
@@ -548,16 +548,14 @@ IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMDocument2Ptr 
     return createDataCollectorCfg(&text, parent);
 }
 
-IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMNodePtr node,
-                                                            INodeCfg* parent) {
+IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
     const std::wstring text = xmlOf(node);
     return createDataCollectorCfg(&text, parent);
 }
 
 IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
-    return createTyped<IDataModifierCfg, DataModifierCfgImpl>(text, parent,
-                                                              INodeCfg::DataModifier);
+    return createTyped<IDataModifierCfg, DataModifierCfgImpl>(text, parent, INodeCfg::DataModifier);
 }
 
 IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(IXMLDOMDocument2Ptr doc,
@@ -614,8 +612,7 @@ ISampleResultsCfg* KAZConfigFactory::createSampleResultsCfg(const std::wstring* 
 
 ISampleFixedResultCfg* KAZConfigFactory::createSampleFixedResultCfg(const std::wstring* text,
                                                                     INodeCfg* parent) {
-    return createTyped<ISampleFixedResultCfg, SampleFixedResultCfgImpl>(text, parent,
-                                                                        std::nullopt);
+    return createTyped<ISampleFixedResultCfg, SampleFixedResultCfgImpl>(text, parent, std::nullopt);
 }
 
 ISampleRefResultCfg* KAZConfigFactory::createSampleRefResultCfg(const std::wstring* text,

@@ -17,13 +17,16 @@ long answer(const std::wstring& text, const wchar_t** out, int* length) {
 KAZSAXAttributesImpl::KAZSAXAttributesImpl(kaz::xml::ISAXAttributes* wrapped)
     : wrapped_(wrapped), length_(wrapped == nullptr ? 0 : attributeCount(*wrapped)) {}
 
-long KAZSAXAttributesImpl::getLength(int* length) { return wrapped_->getLength(length); }
+long KAZSAXAttributesImpl::getLength(int* length) {
+    return wrapped_->getLength(length);
+}
 
 long KAZSAXAttributesImpl::getURI(int index, const wchar_t** uri, int* uriLength) {
     return wrapped_->getURI(index, uri, uriLength);
 }
 
-long KAZSAXAttributesImpl::getLocalName(int index, const wchar_t** localName, int* localNameLength) {
+long KAZSAXAttributesImpl::getLocalName(int index, const wchar_t** localName,
+                                        int* localNameLength) {
     return wrapped_->getLocalName(index, localName, localNameLength);
 }
 
@@ -90,7 +93,8 @@ long KAZSAXAttributesImpl::getValueFromQName(const wchar_t* qName, int qNameLeng
                                              const wchar_t** value, int* valueLength) {
     const long result = wrapped_->getValueFromQName(qName, qNameLength, value, valueLength);
     if (kaz::xml::failed(result)) return result;
-    const auto found = valuesByQName_.find(std::wstring(qName, static_cast<std::size_t>(qNameLength)));
+    const auto found =
+        valuesByQName_.find(std::wstring(qName, static_cast<std::size_t>(qNameLength)));
     return found == valuesByQName_.end() ? result : answer(found->second, value, valueLength);
 }
 

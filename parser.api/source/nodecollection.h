@@ -20,9 +20,7 @@ namespace kaz::kazparser {
 template <class Interface, class Item, class Derived>
 class NodeCollection : public NodeImpl<Interface> {
 public:
-    unsigned int append(INodeCfg* item) override {
-        return appendItem(castItem(item, L"append"));
-    }
+    unsigned int append(INodeCfg* item) override { return appendItem(castItem(item, L"append")); }
 
     unsigned int insert(INodeCfg* item, unsigned int index) override {
         Item* typed = castItem(item, L"insert");
@@ -96,7 +94,8 @@ protected:
     }
 
     void checkIndex(unsigned int index, const wchar_t* method) const {
-        if (index >= items_.size()) errors::indexOutOfRange(index, KAZ_HERE(Derived::kClassName, method));
+        if (index >= items_.size())
+            errors::indexOutOfRange(index, KAZ_HERE(Derived::kClassName, method));
     }
 
     unsigned int appendItem(Item* item) {

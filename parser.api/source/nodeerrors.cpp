@@ -18,11 +18,13 @@ void nameOutOfRange(const std::wstring& name, const std::wstring& context) {
 }
 
 void notChildName(const std::wstring& name, const std::wstring& context) {
-    throw KAZExceptionFactory::createOutOfRangeException(
-        name + L" is not the name of child object", context, nullptr);
+    throw KAZExceptionFactory::createOutOfRangeException(name + L" is not the name of child object",
+                                                         context, nullptr);
 }
 
-void invalidArgument(const std::wstring& context) { invalidData(L"Invalid argument", context); }
+void invalidArgument(const std::wstring& context) {
+    invalidData(L"Invalid argument", context);
+}
 
 void invalidData(const std::wstring& message, const std::wstring& context) {
     throw KAZExceptionFactory::createInvalidDataException(message, context, nullptr);

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "guardedslot.h"
+#include "childslot.h"
 #include "kazparser/IOutputConfigCfg.h"
 #include "nodeimpl.h"
 
@@ -54,7 +54,7 @@ private:
                         const wchar_t* method) const;
     void checkIndex(unsigned int index, const wchar_t* method) const;
 
-    GuardedSlot<IUseDataModifiersCfg> modifiers_;
+    ChildSlot<IUseDataModifiersCfg> modifiers_;
     std::vector<IUsePresenterCfg*> presenters_;
 };
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "guardedslot.h"
+#include "childslot.h"
 #include "kazparser/IParamSetsCfg.h"
 #include "kazxml/SAX.h"
 #include "nodeerrors.h"
@@ -109,7 +109,7 @@ private:
     std::wstring name_;
     std::wstring note_;
     // Declared last so that it is destroyed first.
-    GuardedSlot<IParamSetsCfg> paramSets_;
+    ChildSlot<IParamSetsCfg> paramSets_;
 };
 
 }  // namespace kaz::kazparser

@@ -43,19 +43,19 @@ bool PresentationElementCfgImpl::setChild(INodeCfg* child) {
 }
 
 void PresentationElementCfgImpl::setInputConfig(IInputConfigCfg* input) {
-    fixedchildren::adopt(input_, required(input, L"setInputConfig"), this);
+    input_.set(required(input, L"setInputConfig"), this);
 }
 
 void PresentationElementCfgImpl::setOutputConfig(IOutputConfigCfg* output) {
-    fixedchildren::adopt(output_, required(output, L"setOutputConfig"), this);
+    output_.set(required(output, L"setOutputConfig"), this);
 }
 
 IInputConfigCfg* PresentationElementCfgImpl::replaceInputConfig(IInputConfigCfg* input) {
-    return fixedchildren::exchange(input_, required(input, L"replaceInputConfig"), this);
+    return input_.replace(required(input, L"replaceInputConfig"), this);
 }
 
 IOutputConfigCfg* PresentationElementCfgImpl::replaceOutputConfig(IOutputConfigCfg* output) {
-    return fixedchildren::exchange(output_, required(output, L"replaceOutputConfig"), this);
+    return output_.replace(required(output, L"replaceOutputConfig"), this);
 }
 
 bool PresentationElementCfgImpl::setSchemaVersion(const std::wstring& version) {

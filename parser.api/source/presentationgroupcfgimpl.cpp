@@ -41,13 +41,12 @@ bool PresentationGroupCfgImpl::setChild(INodeCfg* child) {
 }
 
 void PresentationGroupCfgImpl::setPresentationElements(IPresentationElementsCfg* elements) {
-    fixedchildren::adopt(elements_, required(elements, L"setPresentationElements"), this);
+    elements_.set(required(elements, L"setPresentationElements"), this);
 }
 
 IPresentationElementsCfg* PresentationGroupCfgImpl::replacePresentationElements(
     IPresentationElementsCfg* elements) {
-    return fixedchildren::exchange(elements_, required(elements, L"replacePresentationElements"),
-                                   this);
+    return elements_.replace(required(elements, L"replacePresentationElements"), this);
 }
 
 bool PresentationGroupCfgImpl::setPreviewImg(const std::wstring& image) {

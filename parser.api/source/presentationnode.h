@@ -64,20 +64,19 @@ public:
 
     IFeaturesCfg* getFeatures() const override { return features_.get(); }
     void setFeatures(IFeaturesCfg* features) override {
-        fixedchildren::adopt(features_, required(features, L"setFeatures"), this);
+        features_.set(required(features, L"setFeatures"), this);
     }
     IFeaturesCfg* replaceFeatures(IFeaturesCfg* features) override {
-        return fixedchildren::exchange(features_, required(features, L"replaceFeatures"), this);
+        return features_.replace(required(features, L"replaceFeatures"), this);
     }
     IFeaturesCfg* releaseFeatures() override { return features_.release(); }
 
     IExtraValuesConfigCfg* getExtraValuesConfig() const override { return extraValues_.get(); }
     void setExtraValuesConfig(IExtraValuesConfigCfg* extraValues) override {
-        fixedchildren::adopt(extraValues_, required(extraValues, L"setExtraValuesConfig"), this);
+        extraValues_.set(required(extraValues, L"setExtraValuesConfig"), this);
     }
     IExtraValuesConfigCfg* replaceExtraValuesConfig(IExtraValuesConfigCfg* extraValues) override {
-        return fixedchildren::exchange(extraValues_,
-                                       required(extraValues, L"replaceExtraValuesConfig"), this);
+        return extraValues_.replace(required(extraValues, L"replaceExtraValuesConfig"), this);
     }
     IExtraValuesConfigCfg* releaseExtraValuesConfig() override { return extraValues_.release(); }
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "guardedslot.h"
+#include "childslot.h"
 #include "kazparser/ISampleFixedResultCfg.h"
 #include "kazxml/SAX.h"
 #include "sampleresultnode.h"
@@ -43,7 +43,7 @@ private:
     // `data` stops being displaced when it is taken back.
     void readopt(const IUseDataCfg* data);
 
-    GuardedSlot<IUseDataCfg> data_;
+    ChildSlot<IUseDataCfg> data_;
     // Data nodes that setChild displaced: detached and no longer children,
     // but kept alive until this entry goes, so that none is left ownerless.
     std::vector<std::unique_ptr<IUseDataCfg>> displaced_;

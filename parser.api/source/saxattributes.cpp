@@ -10,7 +10,8 @@ namespace {
 
 void check(long result, const wchar_t* operation) {
     if (kaz::xml::failed(result))
-        throw kaz::xml::PlatformError(result, std::wstring(L"ISAXAttributes::") + operation + L" failed",
+        throw kaz::xml::PlatformError(result,
+                                      std::wstring(L"ISAXAttributes::") + operation + L" failed",
                                       L"kaz::xml::ISAXAttributes");
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "guardedslot.h"
+#include "childslot.h"
 #include "kazparser/IUseDataCollectorCfg.h"
 #include "nodeimpl.h"
 
@@ -42,8 +42,8 @@ public:
 private:
     UseDataCollectorCfgImpl(const UseDataCollectorCfgImpl& other);
 
-    GuardedSlot<IDataCollectorCfg> collector_;
-    GuardedSlot<ISampleResultsCfg> results_;
+    ChildSlot<IDataCollectorCfg> collector_;
+    ChildSlot<ISampleResultsCfg> results_;
 };
 
 }  // namespace kaz::kazparser

@@ -33,8 +33,7 @@ bool UseFixedPresentationElementCfgImpl::setChild(INodeCfg* child) {
 }
 
 void UseFixedPresentationElementCfgImpl::setPresentationElement(IPresentationElementCfg* element) {
-    fixedchildren::adopt(
-        element_, fixedchildren::required(element, kClassName, L"setPresentationElement"), this);
+    element_.set(fixedchildren::required(element, kClassName, L"setPresentationElement"), this);
 }
 
 }  // namespace kaz::kazparser

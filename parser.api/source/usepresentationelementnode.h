@@ -58,9 +58,8 @@ public:
 
     IExtParamsCfg* getExtParams() const override { return extParams_.get(); }
     void setExtParams(IExtParamsCfg* extParams) override {
-        fixedchildren::adopt(
-            extParams_, fixedchildren::required(extParams, Derived::kClassName, L"setExtParams"),
-            this);
+        extParams_.set(fixedchildren::required(extParams, Derived::kClassName, L"setExtParams"),
+                       this);
     }
     IExtParamsCfg* releaseExtParams() override { return extParams_.release(); }
 

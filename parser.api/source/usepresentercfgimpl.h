@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "guardedslot.h"
+#include "childslot.h"
 #include "kazparser/IUsePresenterCfg.h"
 #include "nodeimpl.h"
 
@@ -48,9 +48,9 @@ private:
 
     std::array<INodeCfg*, 3> slots() const;
 
-    GuardedSlot<ISelectTablesCfg> selection_;
-    GuardedSlot<IUseDataModifiersCfg> modifiers_;
-    GuardedSlot<IPresenterCfg> presenter_;
+    ChildSlot<ISelectTablesCfg> selection_;
+    ChildSlot<IUseDataModifiersCfg> modifiers_;
+    ChildSlot<IPresenterCfg> presenter_;
 };
 
 }  // namespace kaz::kazparser

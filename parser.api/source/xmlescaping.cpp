@@ -4,7 +4,11 @@
 
 namespace kaz::kazparser {
 
-void escapeText(std::wstring& text) { tableobj::escapeText(text); }
-void escapeAttribute(std::wstring& text) { tableobj::escapeAttribute(text); }
+void escapeText(std::wstring& text) {
+    tableobj::escapeText(text);
+}
+void escapeAttribute(std::wstring& text) {
+    tableobj::escapeAttribute(text);
+}
 
 }  // namespace kaz::kazparser

@@ -39,6 +39,8 @@ std::wstring StartTag::str() {
     return std::move(tag_);
 }
 
-std::wstring endTag(const std::wstring& name) { return L"</" + name + L">"; }
+std::wstring endTag(const std::wstring& name) {
+    return L"</" + name + L">";
+}
 
 }  // namespace kaz::kazparser

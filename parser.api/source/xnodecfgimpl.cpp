@@ -53,12 +53,15 @@ const std::wstring& XNodeCfgImpl::getName() const {
     return name_.empty() ? defaultName : name_;
 }
 
-INodeCfg* XNodeCfgImpl::clone() const { return new XNodeCfgImpl(*this); }
+INodeCfg* XNodeCfgImpl::clone() const {
+    return new XNodeCfgImpl(*this);
+}
 
 bool XNodeCfgImpl::writeXml(IXmlWriter& out) const {
     const std::wstring& name = getName();
     StartTag tag(name);
-    for (const auto& [attributeName, value] : attributes_) tag.always(attributeName, attributeText(value));
+    for (const auto& [attributeName, value] : attributes_)
+        tag.always(attributeName, attributeText(value));
     out.write(tag.str());
     if (!text_.empty()) out.write(elementText(text_));
     writeChildren(out);
@@ -101,7 +104,8 @@ const std::wstring& XNodeCfgImpl::getAttribute(unsigned int index) const {
 
 const std::wstring& XNodeCfgImpl::getAttribute(const std::wstring& name) const {
     const auto found = findAttribute(name);
-    if (found == attributes_.end()) errors::notChildName(name, KAZ_HERE(kClassName, L"getAttribute"));
+    if (found == attributes_.end())
+        errors::notChildName(name, KAZ_HERE(kClassName, L"getAttribute"));
     return found->second;
 }
 
@@ -125,7 +129,8 @@ bool XNodeCfgImpl::hasAttribute(const std::wstring& name) const {
 
 const std::wstring& XNodeCfgImpl::childText(const std::wstring& childName) const {
     const unsigned int position = lastPositionOf(childName);
-    if (position == kNoPosition) errors::notChildName(childName, KAZ_HERE(kClassName, L"getChildValue"));
+    if (position == kNoPosition)
+        errors::notChildName(childName, KAZ_HERE(kClassName, L"getChildValue"));
     const auto* child = dynamic_cast<const IXNodeCfg*>(items()[position]);
     if (child == nullptr) unreadable(childName, L"", L"a generic element with a value");
     return child->getText();

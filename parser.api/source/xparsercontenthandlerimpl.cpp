@@ -31,15 +31,17 @@ long XParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, 
         refused.release();
         return kaz::xml::S_OK;
     }
-    errors::parsing(L"Syntax error at :'<" + std::wstring(qName, static_cast<std::size_t>(qNameLength)) +
-                        L">'",
-                    KAZ_HERE(kClassName, L"endElement"));
+    errors::parsing(
+        L"Syntax error at :'<" + std::wstring(qName, static_cast<std::size_t>(qNameLength)) + L">'",
+        KAZ_HERE(kClassName, L"endElement"));
 }
 
 long XParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
     const std::wstring text(chars, static_cast<std::size_t>(length));
     auto* node = dynamic_cast<IXNodeCfg*>(top());
-    if (node == nullptr) errors::parsing(L"Configure invalid at '" + text + L"'", KAZ_HERE(kClassName, L"characters"));
+    if (node == nullptr)
+        errors::parsing(L"Configure invalid at '" + text + L"'",
+                        KAZ_HERE(kClassName, L"characters"));
     node->appendText(text);
     return kaz::xml::S_OK;
 }
