@@ -74,6 +74,31 @@ void parse(kaz::xml::SAXXMLReader& reader, const std::wstring& text) {
 
 }  // namespace
 
+// The document and element forms of a kind: they read the markup of the
+// document or element and call the kind's text form with it.
+#define KAZ_MARKUP_FORMS(Interface, create)                                          \
+    Interface* KAZConfigFactory::create(IXMLDOMDocument2Ptr doc, INodeCfg* parent) { \
+        const std::wstring text = xmlOf(doc);                                        \
+        return create(&text, parent);                                                \
+    }                                                                                \
+    Interface* KAZConfigFactory::create(IXMLDOMNodePtr node, INodeCfg* parent) {     \
+        const std::wstring text = xmlOf(node);                                       \
+        return create(&text, parent);                                                \
+    }
+
+// The same for the data-value kinds, which take the value's type first.
+#define KAZ_TYPED_MARKUP_FORMS(Interface, create)                                                  \
+    Interface* KAZConfigFactory::create(tableobj::IElement::ElementType type,                      \
+                                        IXMLDOMDocument2Ptr doc, INodeCfg* parent) {               \
+        const std::wstring text = xmlOf(doc);                                                      \
+        return create(type, &text, parent);                                                        \
+    }                                                                                              \
+    Interface* KAZConfigFactory::create(tableobj::IElement::ElementType type, IXMLDOMNodePtr node, \
+                                        INodeCfg* parent) {                                        \
+        const std::wstring text = xmlOf(node);                                                     \
+        return create(type, &text, parent);                                                        \
+    }
+
 INodeCfg* KAZConfigFactory::createNodeCfg(const std::wstring* text, INodeCfg* parent) {
     return createNodeCfg(text, parent, false, INodeCfg::Param);
 }
@@ -200,17 +225,7 @@ IUseDataCfg* KAZConfigFactory::createUseDataCfg(tableobj::IElement::ElementType 
     return node.release();
 }
 
-IUseDataCfg* KAZConfigFactory::createUseDataCfg(tableobj::IElement::ElementType type,
-                                                IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseDataCfg(type, &text, parent);
-}
-
-IUseDataCfg* KAZConfigFactory::createUseDataCfg(tableobj::IElement::ElementType type,
-                                                IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseDataCfg(type, &text, parent);
-}
+KAZ_TYPED_MARKUP_FORMS(IUseDataCfg, createUseDataCfg)
 
 IUseRefDataCfg* KAZConfigFactory::createUseRefDataCfg(tableobj::IElement::ElementType,
                                                       const std::wstring* text, INodeCfg* parent) {
@@ -224,17 +239,7 @@ IUseRefDataCfg* KAZConfigFactory::createUseRefDataCfg(tableobj::IElement::Elemen
     return node.release();
 }
 
-IUseRefDataCfg* KAZConfigFactory::createUseRefDataCfg(tableobj::IElement::ElementType type,
-                                                      IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseRefDataCfg(type, &text, parent);
-}
-
-IUseRefDataCfg* KAZConfigFactory::createUseRefDataCfg(tableobj::IElement::ElementType type,
-                                                      IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseRefDataCfg(type, &text, parent);
-}
+KAZ_TYPED_MARKUP_FORMS(IUseRefDataCfg, createUseRefDataCfg)
 
 ILanguageStringCfg* KAZConfigFactory::createLanguageStringCfg(const std::wstring* text,
                                                               INodeCfg* parent) {
@@ -318,65 +323,17 @@ IExtParamCfg* KAZConfigFactory::createExtParamCfg(const std::wstring* text, INod
     return createFromElement<IExtParamCfg, ExtParamCfgImpl>(text, parent, L"ExtParam");
 }
 
-IParamSetsCfg* KAZConfigFactory::createParamSetsCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createParamSetsCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IParamSetsCfg, createParamSetsCfg)
 
-IParamSetsCfg* KAZConfigFactory::createParamSetsCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createParamSetsCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IParamSetCfg, createParamSetCfg)
 
-IParamSetCfg* KAZConfigFactory::createParamSetCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createParamSetCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IParamCfg, createParamCfg)
 
-IParamSetCfg* KAZConfigFactory::createParamSetCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createParamSetCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IXValueCfg, createXValueCfg)
 
-IParamCfg* KAZConfigFactory::createParamCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createParamCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IExtParamsCfg, createExtParamsCfg)
 
-IParamCfg* KAZConfigFactory::createParamCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createParamCfg(&text, parent);
-}
-
-IXValueCfg* KAZConfigFactory::createXValueCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createXValueCfg(&text, parent);
-}
-
-IXValueCfg* KAZConfigFactory::createXValueCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createXValueCfg(&text, parent);
-}
-
-IExtParamsCfg* KAZConfigFactory::createExtParamsCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createExtParamsCfg(&text, parent);
-}
-
-IExtParamsCfg* KAZConfigFactory::createExtParamsCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createExtParamsCfg(&text, parent);
-}
-
-IExtParamCfg* KAZConfigFactory::createExtParamCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    std::wstring text = xmlOf(doc);
-    return createExtParamCfg(&text, parent);
-}
-
-IExtParamCfg* KAZConfigFactory::createExtParamCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    std::wstring text = xmlOf(node);
-    return createExtParamCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IExtParamCfg, createExtParamCfg)
 
 IParamSetCfg* KAZConfigFactory::createParamSetCfg(INodeCfg* parent, IXMLDOMNodePtr node) {
     return createParamSetCfg(std::move(node), parent);
@@ -392,29 +349,13 @@ IFeatureCfg* KAZConfigFactory::createFeatureCfg(const std::wstring* text, INodeC
     return createTyped<IFeatureCfg, FeatureCfgImpl>(text, parent, INodeCfg::Feature);
 }
 
-IFeatureCfg* KAZConfigFactory::createFeatureCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createFeatureCfg(&text, parent);
-}
-
-IFeatureCfg* KAZConfigFactory::createFeatureCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createFeatureCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IFeatureCfg, createFeatureCfg)
 
 IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(const std::wstring* text, INodeCfg* parent) {
     return createTyped<IFeaturesCfg, FeaturesCfgImpl>(text, parent, std::nullopt);
 }
 
-IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createFeaturesCfg(&text, parent);
-}
-
-IFeaturesCfg* KAZConfigFactory::createFeaturesCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createFeaturesCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IFeaturesCfg, createFeaturesCfg)
 
 IExtraValuesConfigCfg* KAZConfigFactory::createExtraValuesConfigCfg(const std::wstring* text,
                                                                     INodeCfg* parent) {
@@ -431,108 +372,48 @@ IPresenterCfg* KAZConfigFactory::createPresenterCfg(const std::wstring* text, IN
     return createTyped<IPresenterCfg, PresenterCfgImpl>(text, parent, INodeCfg::Presenter);
 }
 
-IPresenterCfg* KAZConfigFactory::createPresenterCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createPresenterCfg(&text, parent);
-}
-
-IPresenterCfg* KAZConfigFactory::createPresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createPresenterCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IPresenterCfg, createPresenterCfg)
 
 IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
     return createFromElement<IUsePresenterCfg, UsePresenterCfgImpl>(text, parent, L"UsePresenter");
 }
 
-IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(IXMLDOMDocument2Ptr doc,
-                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUsePresenterCfg(&text, parent);
-}
-
-IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUsePresenterCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUsePresenterCfg, createUsePresenterCfg)
 
 IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(const std::wstring* text,
                                                             INodeCfg* parent) {
     return createTyped<IUseExpressionCfg, UseExpressionCfgImpl>(text, parent, std::nullopt);
 }
 
-IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMDocument2Ptr doc,
-                                                            INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseExpressionCfg(&text, parent);
-}
-
-IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseExpressionCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUseExpressionCfg, createUseExpressionCfg)
 
 IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(const std::wstring* text, INodeCfg* parent) {
     return createFromElement<IUseEngineCfg, UseEngineCfgImpl>(text, parent, L"UseEngine");
 }
 
-IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseEngineCfg(&text, parent);
-}
-
-IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseEngineCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUseEngineCfg, createUseEngineCfg)
 
 ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
     return createFromElement<ISelectTablesCfg, SelectTablesCfgImpl>(text, parent, L"SelectTables");
 }
 
-ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(IXMLDOMDocument2Ptr doc,
-                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createSelectTablesCfg(&text, parent);
-}
-
-ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createSelectTablesCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(ISelectTablesCfg, createSelectTablesCfg)
 
 IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(const std::wstring* text,
                                                         INodeCfg* parent) {
     return createTyped<IInputConfigCfg, InputConfigCfgImpl>(text, parent, std::nullopt);
 }
 
-IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createInputConfigCfg(&text, parent);
-}
-
-IInputConfigCfg* KAZConfigFactory::createInputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createInputConfigCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IInputConfigCfg, createInputConfigCfg)
 
 IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
     return createTyped<IOutputConfigCfg, OutputConfigCfgImpl>(text, parent, std::nullopt);
 }
 
-IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(IXMLDOMDocument2Ptr doc,
-                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createOutputConfigCfg(&text, parent);
-}
-
-IOutputConfigCfg* KAZConfigFactory::createOutputConfigCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createOutputConfigCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IOutputConfigCfg, createOutputConfigCfg)
 
 // Plug-ins, sample results, collector and modifier references
 
@@ -542,32 +423,14 @@ IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(const std::wstring* 
                                                                 INodeCfg::DataCollector);
 }
 
-IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMDocument2Ptr doc,
-                                                            INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createDataCollectorCfg(&text, parent);
-}
-
-IDataCollectorCfg* KAZConfigFactory::createDataCollectorCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createDataCollectorCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IDataCollectorCfg, createDataCollectorCfg)
 
 IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
     return createTyped<IDataModifierCfg, DataModifierCfgImpl>(text, parent, INodeCfg::DataModifier);
 }
 
-IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(IXMLDOMDocument2Ptr doc,
-                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createDataModifierCfg(&text, parent);
-}
-
-IDataModifierCfg* KAZConfigFactory::createDataModifierCfg(IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createDataModifierCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IDataModifierCfg, createDataModifierCfg)
 
 IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(const std::wstring* text,
                                                                   INodeCfg* parent) {
@@ -575,17 +438,7 @@ IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(const std::wst
                                                                             L"UseDataCollector");
 }
 
-IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(IXMLDOMDocument2Ptr doc,
-                                                                  INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseDataCollectorCfg(&text, parent);
-}
-
-IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(IXMLDOMNodePtr node,
-                                                                  INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseDataCollectorCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUseDataCollectorCfg, createUseDataCollectorCfg)
 
 IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(const std::wstring* text,
                                                                   INodeCfg* parent) {
@@ -593,17 +446,7 @@ IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(const std::wst
                                                                             L"UseDataModifiers");
 }
 
-IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(IXMLDOMDocument2Ptr doc,
-                                                                  INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseDataModifiersCfg(&text, parent);
-}
-
-IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(IXMLDOMNodePtr node,
-                                                                  INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseDataModifiersCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUseDataModifiersCfg, createUseDataModifiersCfg)
 
 ISampleResultsCfg* KAZConfigFactory::createSampleResultsCfg(const std::wstring* text,
                                                             INodeCfg* parent) {
@@ -643,17 +486,7 @@ IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(const std::w
     return createTyped<IPresentationGroupCfg, PresentationGroupCfgImpl>(text, parent, std::nullopt);
 }
 
-IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(IXMLDOMDocument2Ptr doc,
-                                                                    INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createPresentationGroupCfg(&text, parent);
-}
-
-IPresentationGroupCfg* KAZConfigFactory::createPresentationGroupCfg(IXMLDOMNodePtr node,
-                                                                    INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createPresentationGroupCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IPresentationGroupCfg, createPresentationGroupCfg)
 
 IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(const std::wstring* text,
                                                                           INodeCfg* parent) {
@@ -661,17 +494,7 @@ IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(const 
         text, parent, L"PresentationElements");
 }
 
-IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(IXMLDOMDocument2Ptr doc,
-                                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createPresentationElementsCfg(&text, parent);
-}
-
-IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(IXMLDOMNodePtr node,
-                                                                          INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createPresentationElementsCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IPresentationElementsCfg, createPresentationElementsCfg)
 
 IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(const std::wstring* text,
                                                                         INodeCfg* parent) {
@@ -679,17 +502,7 @@ IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(const st
                                                                             std::nullopt);
 }
 
-IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(IXMLDOMDocument2Ptr doc,
-                                                                        INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createPresentationElementCfg(&text, parent);
-}
-
-IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(IXMLDOMNodePtr node,
-                                                                        INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createPresentationElementCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IPresentationElementCfg, createPresentationElementCfg)
 
 IPresentationElementCfg* KAZConfigFactory::createPresentationElementCfg(std::wstring fileName,
                                                                         INodeCfg* parent) {
@@ -705,17 +518,7 @@ IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg
                                                                                      std::nullopt);
 }
 
-IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg(
-    IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseRefPresentationElementCfg(&text, parent);
-}
-
-IUsePresentationElementCfg* KAZConfigFactory::createUseRefPresentationElementCfg(
-    IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseRefPresentationElementCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUsePresentationElementCfg, createUseRefPresentationElementCfg)
 
 IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
     const std::wstring* text, INodeCfg* parent) {
@@ -723,16 +526,6 @@ IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementC
         text, parent, std::nullopt);
 }
 
-IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
-    IXMLDOMDocument2Ptr doc, INodeCfg* parent) {
-    const std::wstring text = xmlOf(doc);
-    return createUseFixedPresentationElementCfg(&text, parent);
-}
-
-IUsePresentationElementCfg* KAZConfigFactory::createUseFixedPresentationElementCfg(
-    IXMLDOMNodePtr node, INodeCfg* parent) {
-    const std::wstring text = xmlOf(node);
-    return createUseFixedPresentationElementCfg(&text, parent);
-}
+KAZ_MARKUP_FORMS(IUsePresentationElementCfg, createUseFixedPresentationElementCfg)
 
 }  // namespace kaz::kazparser
