@@ -6,4 +6,4 @@ cd "$(dirname "$0")/.."
 ./scripts/install-deps.sh
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j"$(nproc)" --target kazparse
-KAZ_ROOT_DIRECTORY="$PWD" ./build/tools/kazparse --generic "${1:-examples/label-presentation.xml}"
+KAZ_ROOT_DIRECTORY="$PWD/examples" ./build/tools/kazparse "${1:-examples/label-presentation.xml}"
