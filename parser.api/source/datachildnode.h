@@ -6,6 +6,7 @@
 #include "kazparser/IDataCfg.h"
 #include "nodeerrors.h"
 #include "nodeimpl.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
 
@@ -57,6 +58,23 @@ protected:
           desc_(other.desc_),
           scaleRelate_(other.scaleRelate_) {
         child_.cloneFrom(other.child_, this);
+    }
+
+    // Reads the attributes every kind of the family shares: "desc",
+    // "scaleRelate" and, where the element's name is not the name, "name".
+    // Answers whether `attribute` was one of them.
+    bool readSharedAttribute(const std::wstring& attribute, const std::wstring& value,
+                             bool withName) {
+        if (withName && attribute == L"name") {
+            name_ = value;
+        } else if (attribute == L"desc") {
+            desc_ = value;
+        } else if (attribute == L"scaleRelate") {
+            scaleRelate_ = flagValue(value);
+        } else {
+            return false;
+        }
+        return true;
     }
 
     // Deletes the current child and takes `child`, made a child of `owner`

@@ -8,15 +8,8 @@ ExtParamCfgImpl::ExtParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
 
 ExtParamCfgImpl::ExtParamCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
     : DataChildNode(parent) {
-    for (const auto& [name, value] : readAttributes(attributes)) {
-        if (name == L"name") {
-            name_ = value;
-        } else if (name == L"desc") {
-            desc_ = value;
-        } else if (name == L"scaleRelate") {
-            scaleRelate_ = flagValue(value);
-        }
-    }
+    for (const auto& [name, value] : readAttributes(attributes))
+        readSharedAttribute(name, value, true);
 }
 
 const std::wstring& ExtParamCfgImpl::getName() const {

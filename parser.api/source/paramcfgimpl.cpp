@@ -22,18 +22,15 @@ ParamCfgImpl::ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* a
     : DataChildNode(parent) {
     name_ = name;
     for (const auto& [attribute, value] : readAttributes(attributes)) {
+        if (readSharedAttribute(attribute, value, false)) continue;
         if (attribute == L"shift") {
             shift_ = ioutils::parseDouble(value);
         } else if (attribute == L"transformCode") {
             transformCode_ = value;
-        } else if (attribute == L"scaleRelate") {
-            scaleRelate_ = flagValue(value);
         } else if (attribute == L"shiftScaleRelate") {
             shiftScaleRelate_ = flagValue(value);
         } else if (attribute == L"systemValue") {
             systemValue_ = flagValue(value);
-        } else if (attribute == L"desc") {
-            desc_ = value;
         } else {
             extras_.set(attribute, value);
         }

@@ -9,15 +9,8 @@ XValueCfgImpl::XValueCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
 XValueCfgImpl::XValueCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
     : DataChildNode(parent) {
     for (const auto& [name, value] : readAttributes(attributes)) {
-        if (name == L"name") {
-            name_ = value;
-        } else if (name == L"desc") {
-            desc_ = value;
-        } else if (name == L"scaleRelate") {
-            scaleRelate_ = flagValue(value);
-        } else if (name == L"systemValue") {
+        if (!readSharedAttribute(name, value, true) && name == L"systemValue")
             systemValue_ = flagValue(value);
-        }
     }
 }
 
