@@ -20,6 +20,13 @@ namespace kaz::kazparser {
 template <class Interface, class Item, class Derived>
 class NodeCollection : public NodeImpl<Interface> {
 public:
+    // Typed overloads that kinds declare in their interfaces stay visible.
+    using Interface::append;
+    using Interface::insert;
+    using Interface::operator[];
+    using Interface::replace;
+    using Interface::remove;
+
     unsigned int append(INodeCfg* item) override { return appendItem(castItem(item, L"append")); }
 
     unsigned int insert(INodeCfg* item, unsigned int index) override {
