@@ -18,8 +18,9 @@ std::wstring parameterText(int sets) {
     for (int s = 0; s < sets; ++s) {
         text += L"<ParamSet name=\"Set" + std::to_wstring(s) + L"\" desc=\"generated\">";
         for (int p = 0; p < 8; ++p)
-            text += L"<P" + std::to_wstring(p) + L" shift=\"0.5\" scaleRelate=\"true\"><UseDouble>" +
-                    std::to_wstring(p * 1.25) + L"</UseDouble></P" + std::to_wstring(p) + L">";
+            text += L"<P" + std::to_wstring(p) +
+                    L" shift=\"0.5\" scaleRelate=\"true\"><UseDouble>" + std::to_wstring(p * 1.25) +
+                    L"</UseDouble></P" + std::to_wstring(p) + L">";
         text += L"</ParamSet>";
     }
     return text + L"</ParamSets>";

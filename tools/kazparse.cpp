@@ -16,18 +16,44 @@ namespace {
 using kaz::kazparser::INodeCfg;
 
 const char* kindName(INodeCfg::NodeType kind) {
-    static const char* const names[] = {
-        "Param", "ExtParam", "ExtParams", "DataCollector", "DataModifier", "Presenter",
-        "UseRefPresentationElement", "UseFixedPresentationElement", "Features", "Feature",
-        "ParamSets", "ParamSet", "UsePresenter", "UseDataCollector", "UseDataModifiers", "XValue",
-        "UseData", "UseExpression", "UseEngine", "UseRefData", "SelectTables", "InputConfig",
-        "OutputConfig", "PresentationElement", "PresentationElements", "PresentationGroup",
-        "XNode", "ExtraValuesConfig", "SampleResults", "SampleFixedResult", "SampleRefResult"};
+    static const char* const names[] = {"Param",
+                                        "ExtParam",
+                                        "ExtParams",
+                                        "DataCollector",
+                                        "DataModifier",
+                                        "Presenter",
+                                        "UseRefPresentationElement",
+                                        "UseFixedPresentationElement",
+                                        "Features",
+                                        "Feature",
+                                        "ParamSets",
+                                        "ParamSet",
+                                        "UsePresenter",
+                                        "UseDataCollector",
+                                        "UseDataModifiers",
+                                        "XValue",
+                                        "UseData",
+                                        "UseExpression",
+                                        "UseEngine",
+                                        "UseRefData",
+                                        "SelectTables",
+                                        "InputConfig",
+                                        "OutputConfig",
+                                        "PresentationElement",
+                                        "PresentationElements",
+                                        "PresentationGroup",
+                                        "XNode",
+                                        "ExtraValuesConfig",
+                                        "SampleResults",
+                                        "SampleFixedResult",
+                                        "SampleRefResult"};
     const auto index = static_cast<std::size_t>(kind);
     return index < std::size(names) ? names[index] : "?";
 }
 
-std::string utf8(const std::wstring& text) { return ioutils::utf8FromWide(text); }
+std::string utf8(const std::wstring& text) {
+    return ioutils::utf8FromWide(text);
+}
 
 void printTree(const INodeCfg& node, int depth) {
     std::cout << std::string(static_cast<std::size_t>(depth) * 2, ' ') << utf8(node.getName())
@@ -71,8 +97,8 @@ bool parseArguments(int argc, char** argv, Options& options) {
 // Parses one file and prints it; answers whether it gave a tree.
 bool process(const std::string& file, const Options& options) {
     try {
-        const std::wstring text = ioutils::IOUtilsFactory::createIOUtils()->readTextFile(
-            ioutils::wideFromUtf8(file));
+        const std::wstring text =
+            ioutils::IOUtilsFactory::createIOUtils()->readTextFile(ioutils::wideFromUtf8(file));
         using Factory = kaz::kazparser::KAZConfigFactory;
         std::unique_ptr<INodeCfg> root(options.generic ? Factory::createXNodeCfg(&text, nullptr)
                                                        : Factory::createNodeCfg(&text, nullptr));

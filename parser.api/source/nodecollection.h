@@ -24,8 +24,8 @@ public:
     using Interface::append;
     using Interface::insert;
     using Interface::operator[];
-    using Interface::replace;
     using Interface::remove;
+    using Interface::replace;
 
     unsigned int append(INodeCfg* item) override { return appendItem(castItem(item, L"append")); }
 

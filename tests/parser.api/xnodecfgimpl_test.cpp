@@ -134,7 +134,8 @@ TEST_F(XNodeTest, AttributesByPositionAndName) {
 }
 
 TEST_F(XNodeTest, WritesEscapedAttributesAndTextWithStartAndEndTags) {
-    auto node = parseGeneric(L"<r q='say \"hi\" &amp; it&apos;s'>a &lt; b &gt; c &amp; R&amp;D</r>");
+    auto node =
+        parseGeneric(L"<r q='say \"hi\" &amp; it&apos;s'>a &lt; b &gt; c &amp; R&amp;D</r>");
     EXPECT_EQ(node->getText(), L"a < b > c & R&D");
     EXPECT_EQ(node->toXml(),
               L"<r q=\"say &quot;hi&quot; &amp; it's\">a &lt; b &gt; c &amp; R&amp;D</r>");

@@ -37,6 +37,8 @@ public:
 
 }  // namespace
 
-std::unique_ptr<IIOUtils> IOUtilsFactory::createIOUtils() { return std::make_unique<IOUtilsImpl>(); }
+std::unique_ptr<IIOUtils> IOUtilsFactory::createIOUtils() {
+    return std::make_unique<IOUtilsImpl>();
+}
 
 }  // namespace ioutils

@@ -1,17 +1,19 @@
 #include "ioutils/Numbers.h"
 
+#include <locale.h>
 #include <charconv>
+#include <climits>
 #include <clocale>
 #include <cstdlib>
-#include <locale.h>
-#include <climits>
 #include <cwctype>
 #include <string>
 
 namespace ioutils {
 namespace {
 
-bool isDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+bool isDigit(wchar_t c) {
+    return c >= L'0' && c <= L'9';
+}
 
 std::size_t skipBlanks(std::wstring_view text) {
     std::size_t pos = 0;
@@ -52,7 +54,9 @@ std::size_t decimalLength(std::wstring_view text, std::size_t pos) {
     return end - pos;
 }
 
-std::wstring wideFromAscii(const char* begin, const char* end) { return std::wstring(begin, end); }
+std::wstring wideFromAscii(const char* begin, const char* end) {
+    return std::wstring(begin, end);
+}
 
 }  // namespace
 

@@ -5,7 +5,9 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-bool encodable(char32_t c) { return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF); }
+bool encodable(char32_t c) {
+    return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
+}
 
 void appendUtf8(std::string& out, char32_t c) {
     if (!encodable(c)) c = kReplacement;
@@ -79,7 +81,8 @@ std::string utf8FromWide(std::wstring_view text) {
 std::wstring wideFromUtf8(std::string_view text) {
     std::wstring out;
     out.reserve(text.size());
-    for (std::size_t pos = 0; pos < text.size();) out += static_cast<wchar_t>(decodeUtf8(text, pos));
+    for (std::size_t pos = 0; pos < text.size();)
+        out += static_cast<wchar_t>(decodeUtf8(text, pos));
     return out;
 }
 

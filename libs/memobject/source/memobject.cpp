@@ -39,8 +39,14 @@ void MemObject::operator delete(void* p) noexcept {
     std::free(p);
 }
 
-void MemObject::operator delete(void* p, const std::nothrow_t&) noexcept { operator delete(p); }
+void MemObject::operator delete(void* p, const std::nothrow_t&) noexcept {
+    operator delete(p);
+}
 
-long MemObject::liveCount() noexcept { return live.load(); }
+long MemObject::liveCount() noexcept {
+    return live.load();
+}
 
-void MemObject::failAfter(long allocations) noexcept { allocationsLeft.store(allocations); }
+void MemObject::failAfter(long allocations) noexcept {
+    allocationsLeft.store(allocations);
+}

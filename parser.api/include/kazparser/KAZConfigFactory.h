@@ -18,10 +18,10 @@
 #include "kazparser/IParamCfg.h"
 #include "kazparser/IParamSetCfg.h"
 #include "kazparser/IParamSetsCfg.h"
-#include "kazparser/IPresenterCfg.h"
 #include "kazparser/IPresentationElementCfg.h"
 #include "kazparser/IPresentationElementsCfg.h"
 #include "kazparser/IPresentationGroupCfg.h"
+#include "kazparser/IPresenterCfg.h"
 #include "kazparser/ISampleFixedResultCfg.h"
 #include "kazparser/ISampleRefResultCfg.h"
 #include "kazparser/ISampleResultsCfg.h"
@@ -50,7 +50,8 @@ class KAZPARSER_API KAZConfigFactory {
 public:
     // Receives a message that the library shows instead of throwing
     // (parse-time failures of the XML services): the text and its caption.
-    using MessageHandler = std::function<void(const std::wstring& text, const std::wstring& caption)>;
+    using MessageHandler =
+        std::function<void(const std::wstring& text, const std::wstring& caption)>;
 
     // Builds whatever node kind the text's root element names. Null for a
     // null or empty text. Malformed text shows its error through the message

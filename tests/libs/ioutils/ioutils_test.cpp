@@ -14,7 +14,8 @@ namespace fs = std::filesystem;
 std::wstring readBytes(const std::string& bytes) {
     const fs::path path = fs::temp_directory_path() / "kaz_ioutils_test.txt";
     std::ofstream(path, std::ios::binary) << bytes;
-    const std::wstring text = ioutils::IOUtilsFactory::createIOUtils()->readTextFile(path.wstring());
+    const std::wstring text =
+        ioutils::IOUtilsFactory::createIOUtils()->readTextFile(path.wstring());
     fs::remove(path);
     return text;
 }
@@ -28,7 +29,8 @@ TEST(IOUtils, ReadsUtf8AndUtf16ByTheirByteOrderMarks) {
 }
 
 TEST(IOUtils, AMissingFileRaisesAnErrorNamingIt) {
-    for (const std::wstring& path : {std::wstring(L"/no/such/file.xml"), fs::temp_directory_path().wstring()}) {
+    for (const std::wstring& path :
+         {std::wstring(L"/no/such/file.xml"), fs::temp_directory_path().wstring()}) {
         try {
             ioutils::IOUtilsFactory::createIOUtils()->readTextFile(path);
             ADD_FAILURE() << "no error";

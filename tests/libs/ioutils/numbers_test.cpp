@@ -18,10 +18,17 @@ TEST(Numbers, ParseTakesTheLongestNumericPrefix) {
         int integer;
     };
     const Case cases[] = {
-        {L"  2.5", 2.5, 2},       {L"-0.25xyz", -0.25, 0}, {L"+7", 7, 7},
-        {L"1e3", 1000, 1},        {L"1e", 1, 1},           {L".5", 0.5, 0},
-        {L"abc", 0, 0},           {L"", 0, 0},             {L"- 1", 0, 0},
-        {L"99999999999", 99999999999.0, 2147483647},       {L"-99999999999", -99999999999.0, -2147483647 - 1},
+        {L"  2.5", 2.5, 2},
+        {L"-0.25xyz", -0.25, 0},
+        {L"+7", 7, 7},
+        {L"1e3", 1000, 1},
+        {L"1e", 1, 1},
+        {L".5", 0.5, 0},
+        {L"abc", 0, 0},
+        {L"", 0, 0},
+        {L"- 1", 0, 0},
+        {L"99999999999", 99999999999.0, 2147483647},
+        {L"-99999999999", -99999999999.0, -2147483647 - 1},
         {L"1,5", 1, 1},
     };
     for (const Case& c : cases) {
@@ -52,7 +59,8 @@ TEST(Numbers, WritingIgnoresTheProcessLocaleAndReadsBackExactly) {
     EXPECT_EQ(formatFixed4(-0.25), L"-0.2500");
     EXPECT_EQ(formatFixed4(1.23456), L"1.2346");
     EXPECT_EQ(parseDouble(L"0.5"), 0.5);
-    for (double value : {0.1, 1e300, -0.0, 5e-324, 123456789.125, std::numeric_limits<double>::max()}) {
+    for (double value :
+         {0.1, 1e300, -0.0, 5e-324, 123456789.125, std::numeric_limits<double>::max()}) {
         const std::wstring text = formatShortest(value);
         double back = 0;
         ASSERT_TRUE(readDouble(text, back)) << text;

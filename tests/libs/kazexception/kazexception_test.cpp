@@ -13,9 +13,10 @@ TEST(KAZException, FactoryMakesEachKindWithItsTexts) {
         IKAZException* (*create)(const std::wstring&, const std::wstring&, IKAZException*);
         IKAZException::Kind kind;
     };
-    const Case cases[] = {{KAZExceptionFactory::createOutOfRangeException, IKAZException::OutOfRange},
-                          {KAZExceptionFactory::createInvalidDataException, IKAZException::InvalidData},
-                          {KAZExceptionFactory::createParsingException, IKAZException::Parsing}};
+    const Case cases[] = {
+        {KAZExceptionFactory::createOutOfRangeException, IKAZException::OutOfRange},
+        {KAZExceptionFactory::createInvalidDataException, IKAZException::InvalidData},
+        {KAZExceptionFactory::createParsingException, IKAZException::Parsing}};
     for (const Case& c : cases) {
         IKAZException* e = c.create(L"message", L"context", nullptr);
         EXPECT_EQ(e->getKind(), c.kind);

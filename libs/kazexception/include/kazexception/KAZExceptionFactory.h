@@ -16,8 +16,7 @@ public:
                                                      const std::wstring& context,
                                                      IKAZException* inner);
     static IKAZException* createParsingException(const std::wstring& message,
-                                                 const std::wstring& context,
-                                                 IKAZException* inner);
+                                                 const std::wstring& context, IKAZException* inner);
 
     KAZExceptionFactory() = delete;
 };

@@ -16,7 +16,11 @@ constexpr long XML_E_PARSE_BASE = static_cast<int>(0xC00CE000u);
 constexpr long XML_E_DTD_PROHIBITED = static_cast<int>(0xC00CEF01u);
 constexpr long XML_E_TOO_DEEP = static_cast<int>(0xC00CEF02u);
 
-constexpr bool succeeded(long result) { return result >= 0; }
-constexpr bool failed(long result) { return result < 0; }
+constexpr bool succeeded(long result) {
+    return result >= 0;
+}
+constexpr bool failed(long result) {
+    return result < 0;
+}
 
 }  // namespace kaz::xml

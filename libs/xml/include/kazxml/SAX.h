@@ -72,8 +72,8 @@ public:
                             int localNameLength, const wchar_t* qName, int qNameLength) = 0;
     virtual long characters(const wchar_t* chars, int length) = 0;
     virtual long ignorableWhitespace(const wchar_t* chars, int length) = 0;
-    virtual long processingInstruction(const wchar_t* target, int targetLength,
-                                       const wchar_t* data, int dataLength) = 0;
+    virtual long processingInstruction(const wchar_t* target, int targetLength, const wchar_t* data,
+                                       int dataLength) = 0;
     virtual long skippedEntity(const wchar_t* name, int nameLength) = 0;
 };
 
