@@ -2,20 +2,9 @@
 
 #include <sstream>
 
-#include "kazxml/PlatformError.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
-namespace {
-
-void checkLocator(long result, const wchar_t* operation) {
-    if (kaz::xml::failed(result))
-        throw kaz::xml::PlatformError(result,
-                                      std::wstring(L"ISAXLocator::") + operation + L" failed",
-                                      L"kaz::xml::ISAXLocator");
-}
-
-}  // namespace
-
 long KAZParserErrorHandlerImpl::error(kaz::xml::ISAXLocator* locator, const wchar_t* message,
                                       long code) {
     return report(locator, message, code);
@@ -35,8 +24,8 @@ long KAZParserErrorHandlerImpl::report(kaz::xml::ISAXLocator* locator, const wch
     int line = 0;
     int column = 0;
     if (locator != nullptr) {
-        checkLocator(locator->getLineNumber(&line), L"getLineNumber");
-        checkLocator(locator->getColumnNumber(&column), L"getColumnNumber");
+        checkReaderCall(locator->getLineNumber(&line), L"ISAXLocator", L"getLineNumber");
+        checkReaderCall(locator->getColumnNumber(&column), L"ISAXLocator", L"getColumnNumber");
     }
     std::wostringstream text;
     text << L"\nError : " << static_cast<int>(code) << L"\nLine : " << line << L"\nCharacter : "

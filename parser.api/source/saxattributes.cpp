@@ -9,13 +9,17 @@ namespace kaz::kazparser {
 namespace {
 
 void check(long result, const wchar_t* operation) {
-    if (kaz::xml::failed(result))
-        throw kaz::xml::PlatformError(result,
-                                      std::wstring(L"ISAXAttributes::") + operation + L" failed",
-                                      L"kaz::xml::ISAXAttributes");
+    checkReaderCall(result, L"ISAXAttributes", operation);
 }
 
 }  // namespace
+
+void checkReaderCall(long result, const wchar_t* interfaceName, const wchar_t* operation) {
+    if (kaz::xml::failed(result))
+        throw kaz::xml::PlatformError(result,
+                                      std::wstring(interfaceName) + L"::" + operation + L" failed",
+                                      std::wstring(L"kaz::xml::") + interfaceName);
+}
 
 int attributeCount(kaz::xml::ISAXAttributes& attributes) {
     int length = 0;

@@ -10,6 +10,10 @@ namespace kaz::kazparser {
 
 using AttributeList = std::vector<std::pair<std::wstring, std::wstring>>;
 
+// Raises the kaz::xml::PlatformError of a failed call of the reader's
+// interfaces ("<interfaceName>::<operation> failed").
+void checkReaderCall(long result, const wchar_t* interfaceName, const wchar_t* operation);
+
 // Reading an element's attributes. A failing call raises the
 // kaz::xml::PlatformError of that call.
 int attributeCount(kaz::xml::ISAXAttributes& attributes);
