@@ -76,4 +76,18 @@ void BM_CloneParameterSets(benchmark::State& state) {
 }
 BENCHMARK(BM_CloneParameterSets)->Arg(64)->Arg(1024);
 
+// One attribute value holding `n` root-directory macros: the replacement
+// must stay linear in the value's length.
+void BM_MacrosInOneAttribute(benchmark::State& state) {
+    std::wstring value;
+    for (int64_t i = 0; i < state.range(0); ++i) value += L"[Kestrelon.RootDirectory];";
+    const std::wstring text = L"<Root a=\"" + value + L"\"/>";
+    for (auto _ : state) {
+        std::unique_ptr<INodeCfg> root(KAZConfigFactory::createNodeCfg(&text, nullptr));
+        benchmark::DoNotOptimize(root.get());
+    }
+    setCharacters(state, text);
+}
+BENCHMARK(BM_MacrosInOneAttribute)->Arg(12500)->Arg(100000)->Unit(benchmark::kMillisecond);
+
 }  // namespace

@@ -1,6 +1,5 @@
 #include "featurecfgimpl.h"
 
-#include "kazxml/PlatformError.h"
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
@@ -9,16 +8,6 @@ namespace {
 const std::wstring& defaultName() {
     static const std::wstring name = L"Feature";
     return name;
-}
-
-std::wstring localName(kaz::xml::ISAXAttributes& attributes, int index) {
-    const wchar_t* name = nullptr;
-    int length = 0;
-    const long result = attributes.getLocalName(index, &name, &length);
-    if (kaz::xml::failed(result))
-        throw kaz::xml::PlatformError(result, L"ISAXAttributes::getLocalName failed",
-                                      L"kaz::xml::ISAXAttributes");
-    return std::wstring(name, static_cast<std::size_t>(length));
 }
 
 }  // namespace
@@ -34,7 +23,8 @@ std::wstring FeatureCfgImpl::attributeText(kaz::xml::ISAXAttributes* attributes)
     if (attributes == nullptr) return text;
     const int count = attributeCount(*attributes);
     for (int i = 0; i < count; ++i)
-        text += L' ' + localName(*attributes, i) + L"=\"" + attributeValue(*attributes, i) + L'"';
+        text += L' ' + attributeLocalName(*attributes, i) + L"=\"" +
+                attributeValue(*attributes, i) + L'"';
     return text;
 }
 

@@ -206,20 +206,28 @@ void KAZParserContentHandlerImpl::addError(const std::wstring& text) {
     errorFlag_ = true;
 }
 
+// One pass into a new string: replacing in place would move the rest of the
+// text once per occurrence.
 void KAZParserContentHandlerImpl::replaceRootDirectory(std::wstring& text) {
-    std::size_t position = text.find(kRootDirectoryMacro);
-    if (position == std::wstring::npos) return;
+    std::size_t found = text.find(kRootDirectoryMacro);
+    if (found == std::wstring::npos) return;
     if (!rootDirectory_)
         rootDirectory_ = environmentadapter::IEnvironmentAdapter::getInstance().getRootDirectory();
-    for (; position != std::wstring::npos; position = text.find(kRootDirectoryMacro, position)) {
-        text.replace(position, kRootDirectoryMacro.size(), *rootDirectory_);
-        position += rootDirectory_->size();
+    std::wstring replaced;
+    replaced.reserve(text.size());
+    std::size_t from = 0;
+    for (; found != std::wstring::npos; found = text.find(kRootDirectoryMacro, from)) {
+        replaced.append(text, from, found - from).append(*rootDirectory_);
+        from = found + kRootDirectoryMacro.size();
     }
+    replaced.append(text, from);
+    text = std::move(replaced);
 }
 
 long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*, int,
                                                const wchar_t* qName, int qNameLength,
                                                kaz::xml::ISAXAttributes* attributes) {
+    flushText();
     KAZSAXAttributesImpl copy(attributes);
     int count = 0;
     copy.getLength(&count);
@@ -276,6 +284,7 @@ INodeCfg* KAZParserContentHandlerImpl::createNode(const std::wstring& name,
 
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength) {
+    flushText();
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     const bool madeNode = madeNode_.back();
     madeNode_.pop_back();
@@ -298,7 +307,15 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
 void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wstring& name) {
     INodeCfg* parent = top();
     try {
-        if (parent->setChild(child)) return;
+        // A fixed sample entry's setChild lets go of its data node unfreed.
+        auto* entry = parent->getNodeType() == INodeCfg::SampleFixedResult
+                          ? dynamic_cast<ISampleFixedResultCfg*>(parent)
+                          : nullptr;
+        IUseDataCfg* held = entry != nullptr ? entry->getData() : nullptr;
+        if (parent->setChild(child)) {
+            if (held != nullptr && held != entry->getData()) delete held;
+            return;
+        }
         child->setParent(parent);
     } catch (kazexception::IKAZException* e) {
         kazexception::ExceptionGuard guard(e);
@@ -307,21 +324,27 @@ void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wst
     refused_.push_back(child);
 }
 
+// The reader may cut one run of text anywhere (a macro included): the run
+// is collected whole and handed on at the next element event.
 long KAZParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
-    INodeCfg* node = top();
-    if (!dataMode_ && rawFeature_ == nullptr &&
-        (node == nullptr || !receivesCharacters(node->getNodeType())))
-        return kaz::xml::S_OK;
-    std::wstring text(chars, static_cast<std::size_t>(length));
-    replaceRootDirectory(text);
-    if (dataMode_) {
-        captured_.characters(text);
-    } else if (rawFeature_ != nullptr) {
-        rawFeature_->appendValue(text);
-    } else if (auto* receiver = dynamic_cast<CharacterDataReceiver*>(node)) {
-        receiver->appendCharacters(text);
-    }
+    const INodeCfg* node = top();
+    if (dataMode_ || rawFeature_ != nullptr ||
+        (node != nullptr && receivesCharacters(node->getNodeType())))
+        pendingText_.append(chars, static_cast<std::size_t>(length));
     return kaz::xml::S_OK;
+}
+
+void KAZParserContentHandlerImpl::flushText() {
+    if (pendingText_.empty()) return;
+    replaceRootDirectory(pendingText_);
+    if (dataMode_) {
+        captured_.characters(pendingText_);
+    } else if (rawFeature_ != nullptr) {
+        rawFeature_->appendValue(pendingText_);
+    } else if (auto* receiver = dynamic_cast<CharacterDataReceiver*>(top())) {
+        receiver->appendCharacters(pendingText_);
+    }
+    pendingText_.clear();
 }
 
 void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {

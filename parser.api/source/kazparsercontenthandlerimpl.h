@@ -43,6 +43,9 @@ private:
     // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
     void replaceRootDirectory(std::wstring& text);
     void freeRefused();
+    // Hands the text collected since the last element event to where the
+    // open element keeps it.
+    void flushText();
     // At the end of a data value's or reference's element: hands the
     // captured content to its node (the top node).
     void finishCapture(const std::wstring& name);
@@ -64,6 +67,7 @@ private:
     // content, nested markup included, is appended to its value as text.
     IFeatureCfg* rawFeature_ = nullptr;
     MarkupCapture captured_;
+    std::wstring pendingText_;
 };
 
 }  // namespace kaz::kazparser

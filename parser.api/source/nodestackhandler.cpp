@@ -12,7 +12,11 @@ INodeCfg* NodeStackHandler::pop() {
     INodeCfg* node = stack_.back();
     stack_.pop_back();
     lastEnded_ = node;
-    if (stack_.empty()) finishedRoot_ = node;
+    if (stack_.empty() && node != finishedRoot_) {
+        // Elements that made no node can leave several roots; the last one counts.
+        delete finishedRoot_;
+        finishedRoot_ = node;
+    }
     return node;
 }
 

@@ -22,7 +22,7 @@ public:
     // Reads "name", "desc", "kaz.DwgSysParam.MeasureScale", "schemaVersion",
     // "nameStringID" and "descStringID"; other attributes are ignored.
     PresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : PresentationNode(readAttributes(attributes), parent) {}
+        : PresentationNode(readAttributes(attributes, AttributeNaming::Local), parent) {}
 
     INodeCfg* clone() const override { return new PresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;

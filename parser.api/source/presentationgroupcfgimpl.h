@@ -21,7 +21,7 @@ public:
     explicit PresentationGroupCfgImpl(INodeCfg* parent) : PresentationNode(parent) {}
     // Reads the element's attributes and "previewImg"; others are ignored.
     PresentationGroupCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : PresentationGroupCfgImpl(readAttributes(attributes), parent) {}
+        : PresentationGroupCfgImpl(readAttributes(attributes, AttributeNaming::Local), parent) {}
 
     INodeCfg* clone() const override { return new PresentationGroupCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;

@@ -1,7 +1,5 @@
 #include "samplefixedresultcfgimpl.h"
 
-#include <algorithm>
-
 #include "nodeerrors.h"
 
 namespace kaz::kazparser {
@@ -19,23 +17,12 @@ INodeCfg* SampleFixedResultCfgImpl::getChild(unsigned int index) const {
 bool SampleFixedResultCfgImpl::setChild(INodeCfg* child) {
     auto* data = dynamic_cast<IUseDataCfg*>(child);
     if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
-    if (data == data_.get()) return true;
-    readopt(data);
-    if (IUseDataCfg* previous = data_.replace(data, nullptr)) displaced_.emplace_back(previous);
+    (void)data_.replace(data, nullptr);  // the previous node now belongs to the caller
     return true;
 }
 
 void SampleFixedResultCfgImpl::setData(IUseDataCfg* data) {
-    readopt(data);
     data_.set(data, this);
-}
-
-void SampleFixedResultCfgImpl::readopt(const IUseDataCfg* data) {
-    const auto found = std::find_if(displaced_.begin(), displaced_.end(),
-                                    [data](const auto& node) { return node.get() == data; });
-    if (found == displaced_.end()) return;
-    (void)found->release();  // ownership goes back to the data slot
-    displaced_.erase(found);
 }
 
 }  // namespace kaz::kazparser

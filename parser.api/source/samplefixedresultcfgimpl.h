@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "childslot.h"
 #include "kazparser/ISampleFixedResultCfg.h"
 #include "kazxml/SAX.h"
@@ -27,8 +24,9 @@ public:
     INodeCfg* getChild(unsigned int index) const override;
     unsigned int getChildCount() const override { return data_ ? 1u : 0u; }
     void deleteChildren() override { data_.reset(); }
-    // Takes a data node without deleting the previous one or re-parenting
-    // the new one; anything else raises "Invalid argument".
+    // Takes a data node without re-parenting it; the previous one is let go
+    // of, detached and alive, for whoever holds it. Anything else raises
+    // "Invalid argument".
     bool setChild(INodeCfg* child) override;
 
     IUseDataCfg* getData() const override { return data_.get(); }
@@ -37,16 +35,9 @@ public:
     void addAttributes(StartTag&) const {}
 
 private:
-    // Copies the texts and the data node, not the displaced nodes.
     SampleFixedResultCfgImpl(const SampleFixedResultCfgImpl& other);
 
-    // `data` stops being displaced when it is taken back.
-    void readopt(const IUseDataCfg* data);
-
     ChildSlot<IUseDataCfg> data_;
-    // Data nodes that setChild displaced: detached and no longer children,
-    // but kept alive until this entry goes, so that none is left ownerless.
-    std::vector<std::unique_ptr<IUseDataCfg>> displaced_;
 };
 
 }  // namespace kaz::kazparser

@@ -12,6 +12,10 @@ void check(long result, const wchar_t* operation) {
     checkReaderCall(result, L"ISAXAttributes", operation);
 }
 
+bool isNamespaceDeclaration(std::wstring_view qName) {
+    return qName == L"xmlns" || qName.starts_with(L"xmlns:");
+}
+
 }  // namespace
 
 void checkReaderCall(long result, const wchar_t* interfaceName, const wchar_t* operation) {
@@ -41,13 +45,26 @@ std::wstring attributeValue(kaz::xml::ISAXAttributes& attributes, int index) {
     return std::wstring(value, static_cast<std::size_t>(length));
 }
 
-AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes) {
+std::wstring attributeLocalName(kaz::xml::ISAXAttributes& attributes, int index) {
+    const wchar_t* name = nullptr;
+    int length = 0;
+    check(attributes.getLocalName(index, &name, &length), L"getLocalName");
+    return std::wstring(name, static_cast<std::size_t>(length));
+}
+
+AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes, AttributeNaming naming) {
     AttributeList list;
     if (attributes == nullptr) return list;
     const int count = attributeCount(*attributes);
     list.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        list.emplace_back(attributeQName(*attributes, i), attributeValue(*attributes, i));
+    for (int i = 0; i < count; ++i) {
+        std::wstring qName = attributeQName(*attributes, i);
+        if (naming == AttributeNaming::Qualified) {
+            list.emplace_back(std::move(qName), attributeValue(*attributes, i));
+        } else if (!isNamespaceDeclaration(qName)) {
+            list.emplace_back(attributeLocalName(*attributes, i), attributeValue(*attributes, i));
+        }
+    }
     return list;
 }
 

@@ -12,8 +12,7 @@ UseDataCollectorCfgImpl::UseDataCollectorCfgImpl(const UseDataCollectorCfgImpl& 
 }
 
 const std::wstring& UseDataCollectorCfgImpl::getName() const {
-    static std::wstring name;
-    name = L"UseDataCollector";
+    static const std::wstring name = L"UseDataCollector";
     return name;
 }
 

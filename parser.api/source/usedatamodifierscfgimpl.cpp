@@ -3,8 +3,7 @@
 namespace kaz::kazparser {
 
 const std::wstring& UseDataModifiersCfgImpl::getName() const {
-    static std::wstring name;
-    name = L"UseDataModifiers";
+    static const std::wstring name = L"UseDataModifiers";
     return name;
 }
 

@@ -24,7 +24,7 @@ public:
     // Reads "active", "label", "desc", "labelStringID", "descStringID",
     // "elemID" and "refMainData"; other attributes are ignored.
     UseFixedPresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : UsePresentationElementNode(readAttributes(attributes), parent) {}
+        : UsePresentationElementNode(readAttributes(attributes, AttributeNaming::Local), parent) {}
 
     INodeCfg* clone() const override { return new UseFixedPresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override { return writeReference(out, {}); }

@@ -24,7 +24,8 @@ public:
         : UsePresentationElementNode(parent) {}
     // Reads the fixed reference's attributes and "refFileName".
     UseRefPresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : UseRefPresentationElementCfgImpl(readAttributes(attributes), parent) {}
+        : UseRefPresentationElementCfgImpl(readAttributes(attributes, AttributeNaming::Local),
+                                           parent) {}
 
     INodeCfg* clone() const override { return new UseRefPresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override { return writeReference(out, refFileName_); }

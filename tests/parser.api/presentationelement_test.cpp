@@ -42,6 +42,30 @@ TEST_F(PresentationElementTest, AttributesAreReadByNameAndWrittenRawInTheirOrder
               L"</PresentationElement>");
 }
 
+// A prefix does not hide an attribute of the presentation kinds; a
+// namespace declaration is no attribute of theirs.
+TEST_F(PresentationElementTest, PresentationKindsReadAttributesByLocalName) {
+    const struct {
+        const wchar_t* text;
+        const wchar_t* written;
+    } cases[] = {
+        {L"<PresentationElement xmlns:k=\"urn:k\" k:name=\"N\"/>",
+         L"<PresentationElement name=\"N\"></PresentationElement>"},
+        {L"<PresentationElement xmlns:name=\"urn:k\"/>",
+         L"<PresentationElement></PresentationElement>"},
+        {L"<PresentationGroup xmlns:k=\"urn:k\" k:name=\"G\" k:previewImg=\"p.png\"/>",
+         L"<PresentationGroup name=\"G\" previewImg=\"p.png\"></PresentationGroup>"},
+        {L"<UseFixedPresentationElement xmlns:k=\"urn:k\" k:elemID=\"7\" k:active=\"true\" "
+         L"k:label=\"L\"/>",
+         L"<UseFixedPresentationElement elemID=\"7\" active=\"true\" label=\"L\">"
+         L"</UseFixedPresentationElement>"},
+        {L"<UseRefPresentationElement xmlns:k=\"urn:k\" k:refFileName=\"f.xml\"/>",
+         L"<UseRefPresentationElement refFileName=\"f.xml\"></UseRefPresentationElement>"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(readNode(c.text)->toXml(), c.written) << c.text;
+    EXPECT_EQ(readElement(cases[0].text)->getName(), L"N");
+}
+
 TEST_F(PresentationElementTest, ChildrenTakeTheirFixedOrderWhateverTheDocumentOrder) {
     auto element = readElement(
         L"<PresentationElement><OutputConfig/><InputConfig/><ExtraValuesConfig/><Features/>"

@@ -76,7 +76,7 @@ void onEndElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, co
 }
 
 void onError(void* ctx, xmlErrorPtr error) {
-    if (error == nullptr || error->level != XML_ERR_FATAL) return;
+    if (error == nullptr || detail::severity(*error) != XML_ERR_FATAL) return;
     if (static_cast<xmlParserCtxtPtr>(ctx)->_private == nullptr) return;  // not parsing yet
     LoadState::of(ctx).record(*error);
 }

@@ -81,6 +81,14 @@ std::wstring namespaceName(const xmlChar* delivered) {
     return attributeValue(reinterpret_cast<const char*>(delivered));
 }
 
+xmlErrorLevel severity(const xmlError& error) {
+    // A namespace name's URI syntax is no rule of well-formedness.
+    const bool namespaceError = error.domain == XML_FROM_NAMESPACE &&
+                                error.level == XML_ERR_ERROR && error.code != XML_WAR_NS_URI;
+    if (namespaceError || error.code == XML_WAR_UNKNOWN_VERSION) return XML_ERR_FATAL;
+    return error.level;
+}
+
 ErrorReport reportFrom(const xmlError& error) {
     ErrorReport report{XML_E_PARSE_BASE + error.code, error.line, error.int2,
                        toWide(BAD_CAST error.message)};

@@ -59,6 +59,12 @@ struct ErrorReport {
     std::wstring message;
 };
 
+// How severe a libxml2 report is for us. A namespace-aware reader refuses
+// what libxml2 only calls an error of the namespace rules (an undeclared
+// prefix, a rebound "xml" prefix, ...), and reads XML 1.0 only, where
+// libxml2 merely warns about another version.
+xmlErrorLevel severity(const xmlError& error);
+
 // A libxml2 error as we report it: our code range, message without newline.
 ErrorReport reportFrom(const xmlError& error);
 // One of our own refusals, at the parser's current position.

@@ -64,7 +64,11 @@ public:
     ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors)
         : content_(content), errors_(errors) {}
     ~ParseSession() {
-        if (ctxt_ != nullptr) xmlFreeParserCtxt(ctxt_);
+        if (ctxt_ == nullptr) return;
+        // Once SAX is off, libxml2 may build a document of its own to keep
+        // the declarations it still reads (after a version or namespace error).
+        xmlFreeDoc(ctxt_->myDoc);
+        xmlFreeParserCtxt(ctxt_);
     }
     ParseSession(const ParseSession&) = delete;
     ParseSession& operator=(const ParseSession&) = delete;
@@ -350,7 +354,7 @@ void ParseSession::onError(void* userData, xmlErrorPtr error) {
     if (session.ended_ || error == nullptr) return;
     // Only flags from here: halting libxml2 inside its own error reporting
     // would free input it may still be reading.
-    session.guarded([&] { session.report(detail::reportFrom(*error), error->level); });
+    session.guarded([&] { session.report(detail::reportFrom(*error), detail::severity(*error)); });
 }
 
 }  // namespace
