@@ -50,13 +50,20 @@ struct Element {
     const std::wstring& name;
     KAZSAXAttributesImpl& attributes;
     INodeCfg* parent;
+    SourceLocation where;
 };
 
 // Makes the node of an element; null when the element makes none.
 using NodeMaker = INodeCfg* (*)(const Element&);
 
+template <class Impl>
+INodeCfg* located(Impl* node, const Element& element) {
+    node->locate(element.where);
+    return node;
+}
+
 INodeCfg* makeXNode(const Element& element) {
-    return new XNodeCfgImpl(element.name, &element.attributes, element.parent);
+    return located(new XNodeCfgImpl(element.name, &element.attributes, element.parent), element);
 }
 
 // Makes an `Impl` from as much of the element as its constructor reads:
@@ -65,20 +72,20 @@ template <class Impl>
 INodeCfg* make(const Element& element) {
     using Attributes = kaz::xml::ISAXAttributes*;
     if constexpr (std::is_constructible_v<Impl, const std::wstring&, Attributes, INodeCfg*>) {
-        return new Impl(element.name, &element.attributes, element.parent);
+        return located(new Impl(element.name, &element.attributes, element.parent), element);
     } else if constexpr (std::is_constructible_v<Impl, Attributes, INodeCfg*>) {
-        return new Impl(&element.attributes, element.parent);
+        return located(new Impl(&element.attributes, element.parent), element);
     } else {
-        return new Impl(element.parent);
+        return located(new Impl(element.parent), element);
     }
 }
 
 INodeCfg* makeUseRefData(const Element& element) {
-    return new UseRefDataCfgImpl(element.name, element.parent);
+    return located(new UseRefDataCfgImpl(element.name, element.parent), element);
 }
 
 INodeCfg* makeUseData(const Element& element) {
-    return new UseDataCfgImpl(element.name, element.parent);
+    return located(new UseDataCfgImpl(element.name, element.parent), element);
 }
 
 // Data values, references and table selections keep their element's
@@ -235,7 +242,9 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
         const wchar_t* value = nullptr;
         int length = 0;
         if (kaz::xml::failed(copy.getValue(i, &value, &length))) continue;
-        std::wstring text(value, static_cast<std::size_t>(length));
+        const std::wstring_view read(value, static_cast<std::size_t>(length));
+        if (read.find(kRootDirectoryMacro) == read.npos) continue;
+        std::wstring text(read);
         replaceRootDirectory(text);
         copy.setValue(i, text);
     }
@@ -267,7 +276,7 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
 
 INodeCfg* KAZParserContentHandlerImpl::createNode(const std::wstring& name,
                                                   KAZSAXAttributesImpl& attributes) {
-    const Element element{name, attributes, nextParent()};
+    const Element element{name, attributes, nextParent(), startTagLocation()};
     const auto& byName = kindsByName();
     if (const auto known = byName.find(name); known != byName.end())
         return known->second != nullptr ? known->second(element) : nullptr;

@@ -5,6 +5,7 @@
 
 #include "datacollectorcfgimpl.h"
 #include "datamodifiercfgimpl.h"
+#include "elementselector.h"
 #include "environmentadapter/IEnvironmentAdapter.h"
 #include "extparamcfgimpl.h"
 #include "extparamscfgimpl.h"
@@ -105,18 +106,30 @@ INodeCfg* KAZConfigFactory::createNodeCfg(const std::wstring* text, INodeCfg* pa
 
 INodeCfg* KAZConfigFactory::createNodeCfg(const std::wstring* text, INodeCfg* parent,
                                           bool expectKind, INodeCfg::NodeType kind) {
-    using kazexception::IKAZException;
     if (text == nullptr || text->empty()) return nullptr;
+    BuildOptions options;
+    if (expectKind) options.rootKind = kind;
+    return buildTree(*text, parent, options);
+}
+
+INodeCfg* KAZConfigFactory::buildTree(const std::wstring& text, INodeCfg* parent,
+                                      const BuildOptions& options) {
+    using kazexception::IKAZException;
     try {
         kaz::xml::SAXXMLReader reader;
         KAZParserContentHandlerImpl content(parent);
         KAZParserErrorHandlerImpl errors;
-        if (expectKind) content.expectKind(kind);
-        check(reader.putContentHandler(&content), L"the content handler was refused");
+        if (options.rootKind) content.expectKind(*options.rootKind);
+        ElementSelector selected(content,
+                                 options.onlyElement != nullptr ? options.onlyElement : L"");
+        kaz::xml::ISAXContentHandler& events =
+            options.onlyElement != nullptr ? static_cast<kaz::xml::ISAXContentHandler&>(selected)
+                                           : content;
+        check(reader.putContentHandler(&events), L"the content handler was refused");
         check(reader.putErrorHandler(&errors), L"the error handler was refused");
         try {
             try {
-                parse(reader, *text);
+                parse(reader, text);
                 if (content.hasError())
                     errors::parsing(L"Syntax error at :'" + content.errorText() + L"'",
                                     KAZ_HERE(kClassName, L"createNodeCfg"));
@@ -126,6 +139,7 @@ INodeCfg* KAZConfigFactory::createNodeCfg(const std::wstring* text, INodeCfg* pa
                                 KAZ_HERE(kClassName, L"createNodeCfg"), e);
             }
         } catch (const kaz::xml::PlatformError& error) {
+            if (options.onlyElement != nullptr) return nullptr;
             // Failures of the XML services are shown, not thrown; the caller
             // receives what was built before the failure.
             // The error handler's reports, when there are any, say the most.
@@ -174,11 +188,12 @@ I* KAZConfigFactory::createTyped(const std::wstring* text, INodeCfg* parent,
 template <class I, class Impl>
 I* KAZConfigFactory::createFromElement(const std::wstring* text, INodeCfg* parent,
                                        const std::wstring& element) {
-    IXMLDOMDocument2Ptr doc = createXMLDocument();
-    if (text != nullptr && !text->empty() && loadXMLContent(doc, text)) {
-        if (IXMLDOMNodePtr node = doc->selectSingleNode(L"//" + element)) {
-            const std::wstring markup = node->xml();
-            if (I* built = createTyped<I, Impl>(&markup, parent, std::nullopt)) return built;
+    if (text != nullptr && !text->empty()) {
+        std::unique_ptr<INodeCfg> node(
+            buildTree(*text, parent, {.rootKind = std::nullopt, .onlyElement = element.c_str()}));
+        if (I* typed = dynamic_cast<I*>(node.get())) {
+            node.release();
+            return typed;
         }
     }
     return new Impl(parent);

@@ -65,21 +65,16 @@ long KAZSAXAttributesImpl::getTypeFromQName(const wchar_t* qName, int qNameLengt
     return wrapped_->getTypeFromQName(qName, qNameLength, type, typeLength);
 }
 
-const std::wstring* KAZSAXAttributesImpl::valueAt(int index) {
-    if (index < 0 || index >= length_) return nullptr;
-    auto found = valuesByIndex_.find(index);
-    if (found == valuesByIndex_.end()) {
-        std::wstring value = attributeValue(*wrapped_, index);
-        valuesByQName_[attributeQName(*wrapped_, index)] = value;
-        found = valuesByIndex_.emplace(index, std::move(value)).first;
-    }
-    return &found->second;
+std::wstring* KAZSAXAttributesImpl::rewrittenAt(int index) {
+    for (auto& [at, value] : rewritten_)
+        if (at == index) return &value;
+    return nullptr;
 }
 
 long KAZSAXAttributesImpl::getValue(int index, const wchar_t** value, int* valueLength) {
-    const std::wstring* stored = valueAt(index);
-    if (stored == nullptr) return kaz::xml::E_INVALIDARG;
-    return answer(*stored, value, valueLength);
+    if (const std::wstring* rewritten = rewrittenAt(index))
+        return answer(*rewritten, value, valueLength);
+    return wrapped_->getValue(index, value, valueLength);
 }
 
 long KAZSAXAttributesImpl::getValueFromName(const wchar_t* uri, int uriLength,
@@ -91,17 +86,17 @@ long KAZSAXAttributesImpl::getValueFromName(const wchar_t* uri, int uriLength,
 
 long KAZSAXAttributesImpl::getValueFromQName(const wchar_t* qName, int qNameLength,
                                              const wchar_t** value, int* valueLength) {
-    const long result = wrapped_->getValueFromQName(qName, qNameLength, value, valueLength);
-    if (kaz::xml::failed(result)) return result;
-    const auto found =
-        valuesByQName_.find(std::wstring(qName, static_cast<std::size_t>(qNameLength)));
-    return found == valuesByQName_.end() ? result : answer(found->second, value, valueLength);
+    int index = -1;
+    const long result = wrapped_->getIndexFromQName(qName, qNameLength, &index);
+    return kaz::xml::failed(result) ? result : getValue(index, value, valueLength);
 }
 
 void KAZSAXAttributesImpl::setValue(int index, const std::wstring& value) {
     if (index < 0 || index >= length_) return;
-    valuesByIndex_[index] = value;
-    valuesByQName_[attributeQName(*wrapped_, index)] = value;
+    if (std::wstring* rewritten = rewrittenAt(index))
+        *rewritten = value;
+    else
+        rewritten_.emplace_back(index, value);
 }
 
 }  // namespace kaz::kazparser

@@ -1,15 +1,17 @@
 #pragma once
 
-#include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "kazxml/SAX.h"
 
 namespace kaz::kazparser {
 
 // The attribute list handed to node constructors: the reader's attributes
-// with values that may be rewritten (the root-directory macro). Lives for
-// one startElement call.
+// with values that may be rewritten (the root-directory macro). Only the
+// rewritten values are held here; all else is answered by the reader's
+// list. Lives for one startElement call.
 class KAZSAXAttributesImpl final : public kaz::xml::ISAXAttributes {
 public:
     explicit KAZSAXAttributesImpl(kaz::xml::ISAXAttributes* wrapped);
@@ -29,7 +31,7 @@ public:
                          int localNameLength, const wchar_t** type, int* typeLength) override;
     long getTypeFromQName(const wchar_t* qName, int qNameLength, const wchar_t** type,
                           int* typeLength) override;
-    // The value as rewritten, read from the wrapped list on first use.
+    // The value as rewritten, else the reader's.
     long getValue(int index, const wchar_t** value, int* valueLength) override;
     long getValueFromName(const wchar_t* uri, int uriLength, const wchar_t* localName,
                           int localNameLength, const wchar_t** value, int* valueLength) override;
@@ -40,13 +42,12 @@ public:
     void setValue(int index, const std::wstring& value);
 
 private:
-    // The stored value at `index`, read from the wrapped list on first use.
-    const std::wstring* valueAt(int index);
+    // The rewritten value at `index`; null when it was not rewritten.
+    std::wstring* rewrittenAt(int index);
 
     kaz::xml::ISAXAttributes* wrapped_;
     int length_ = 0;
-    std::map<int, std::wstring> valuesByIndex_;
-    std::map<std::wstring, std::wstring> valuesByQName_;
+    std::vector<std::pair<int, std::wstring>> rewritten_;  // (index, value)
 };
 
 }  // namespace kaz::kazparser

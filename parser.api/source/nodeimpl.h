@@ -1,18 +1,32 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "kazparser/INodeCfg.h"
+#include "kazparser/SourceLocation.h"
 #include "tableobj/IXmlWriter.h"
 #include "xmltags.h"
 
 namespace kaz::kazparser {
 
+// Where a node read from text started; sourceLocation() finds it here.
+class Located {
+public:
+    std::optional<SourceLocation> location() const {
+        return where_.line != 0 ? std::optional(where_) : std::nullopt;
+    }
+    void locate(SourceLocation where) { where_ = where; }
+
+private:
+    SourceLocation where_{0, 0};  // line 0: made by code
+};
+
 // The state and behaviour that every node kind shares: the parent pointer,
-// the toXml buffer, and writing an element as start tag, children, end tag.
-// `Interface` is the kind's interface.
+// the place it was read from, the toXml buffer, and writing an element as
+// start tag, children, end tag. `Interface` is the kind's interface.
 template <class Interface>
-class NodeImpl : public Interface {
+class NodeImpl : public Interface, public Located {
 public:
     INodeCfg* getParent() const override { return parent_; }
     void setParent(INodeCfg* parent) override { parent_ = parent; }
@@ -29,8 +43,8 @@ public:
 
 protected:
     explicit NodeImpl(INodeCfg* parent) : parent_(parent) {}
-    // A copy keeps the source's parent; the text buffer is not copied.
-    NodeImpl(const NodeImpl& other) : Interface(), parent_(other.parent_) {}
+    // A copy keeps the source's parent and place; the text buffer is not copied.
+    NodeImpl(const NodeImpl& other) : Interface(), Located(other), parent_(other.parent_) {}
     NodeImpl& operator=(const NodeImpl&) = delete;
 
     // Writes `startTag`, then each present child in getChild order, then the

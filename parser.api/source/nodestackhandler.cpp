@@ -8,6 +8,18 @@ NodeStackHandler::~NodeStackHandler() {
     delete finishedRoot_;
 }
 
+long NodeStackHandler::putDocumentLocator(kaz::xml::ISAXLocator* locator) {
+    startTags_ = dynamic_cast<kaz::xml::IStartTagLocator*>(locator);
+    return kaz::xml::S_OK;
+}
+
+SourceLocation NodeStackHandler::startTagLocation() const {
+    int line = 0, column = 0;
+    if (startTags_ == nullptr || kaz::xml::failed(startTags_->getStartTagPosition(&line, &column)))
+        return {0, 0};
+    return {static_cast<unsigned>(line), static_cast<unsigned>(column)};
+}
+
 INodeCfg* NodeStackHandler::pop() {
     INodeCfg* node = stack_.back();
     stack_.pop_back();

@@ -3,6 +3,7 @@
 #include <deque>
 
 #include "kazparser/INodeCfg.h"
+#include "kazparser/SourceLocation.h"
 #include "kazxml/SAX.h"
 
 namespace kaz::kazparser {
@@ -18,7 +19,7 @@ public:
     NodeStackHandler(const NodeStackHandler&) = delete;
     NodeStackHandler& operator=(const NodeStackHandler&) = delete;
 
-    long putDocumentLocator(kaz::xml::ISAXLocator*) override { return kaz::xml::S_OK; }
+    long putDocumentLocator(kaz::xml::ISAXLocator* locator) override;
     long startDocument() override { return kaz::xml::S_OK; }
     long endDocument() override { return kaz::xml::S_OK; }
     long startPrefixMapping(const wchar_t*, int, const wchar_t*, int) override {
@@ -40,6 +41,9 @@ public:
     INodeCfg* takeLastEnded();
 
 protected:
+    // Where the element being started begins; line 0 when the reader does
+    // not tell.
+    SourceLocation startTagLocation() const;
     INodeCfg* factoryParent() const { return parent_; }
     INodeCfg* top() const { return stack_.empty() ? nullptr : stack_.back(); }
     // The parent of the next element's node.
@@ -52,6 +56,7 @@ protected:
     INodeCfg* pop();
 
 private:
+    kaz::xml::IStartTagLocator* startTags_ = nullptr;
     INodeCfg* parent_;
     std::deque<INodeCfg*> stack_;
     INodeCfg* lastEnded_ = nullptr;

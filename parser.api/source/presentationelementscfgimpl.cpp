@@ -64,6 +64,9 @@ IUsePresentationElementCfg* PresentationElementsCfgImpl::resolved(
     if (element == nullptr) return nullptr;
     fixed->setPresentationElement(element.release());
     copyAttributes(reference, *fixed);
+    // It stands where the reference stood; its element answers places in the file.
+    if (const auto where = sourceLocation(&reference))
+        dynamic_cast<Located&>(*fixed).locate(*where);
     if (const IExtParamsCfg* extParams = reference.getExtParams()) {
         Owned<INodeCfg> copy(extParams->clone());
         if (auto* typed = dynamic_cast<IExtParamsCfg*>(copy.get())) {

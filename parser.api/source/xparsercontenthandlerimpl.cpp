@@ -15,7 +15,8 @@ long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*
                                              const wchar_t* qName, int qNameLength,
                                              kaz::xml::ISAXAttributes* attributes) {
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
-    std::unique_ptr<INodeCfg> node(new XNodeCfgImpl(name, attributes, nextParent()));
+    std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(name, attributes, nextParent()));
+    node->locate(startTagLocation());
     push(node.get());
     node.release();
     return kaz::xml::S_OK;

@@ -176,6 +176,26 @@ TEST_F(BuilderTest, RootDirectoryMacroIsReplacedInTextArrivingInPieces) {
     environment.resetRootDirectory();
 }
 
+TEST_F(BuilderTest, NodesReadFromTextKnowWhereTheyStart) {
+    using kaz::kazparser::SourceLocation;
+    using kaz::kazparser::sourceLocation;
+    const std::wstring text =
+        L"<Root>\r\n  <ParamSets>\u00e9<ParamSet name=\"s\"/></ParamSets>\n"
+        L"<UseEngine><UseExpression>x</UseExpression></UseEngine></Root>";
+    auto root = build(text);
+    EXPECT_EQ(sourceLocation(root.get()), (SourceLocation{1, 1}));
+    EXPECT_EQ(sourceLocation(root->getChild(0)->getChild(0)), (SourceLocation{2, 15}));
+    NodePtr<> generic(KAZConfigFactory::createXNodeCfg(&text, nullptr));
+    EXPECT_EQ(sourceLocation(generic->getChild(1)), (SourceLocation{3, 1}));
+    // The form that takes the first element of a name counts in the whole text.
+    NodePtr<> engine(KAZConfigFactory::createUseEngineCfg(&text, nullptr));
+    EXPECT_EQ(sourceLocation(engine.get()), (SourceLocation{3, 1}));
+
+    NodePtr<> made(KAZConfigFactory::createParamSetsCfg(nullptr, nullptr));
+    EXPECT_EQ(sourceLocation(made.get()), std::nullopt);
+    EXPECT_EQ(sourceLocation(nullptr), std::nullopt);
+}
+
 TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
     const std::wstring texts[] = {L"<r a=\"1\"><b><c/></b><d/></r>", L"<r><Tables/></r>",
                                   L"<r><b></r>"};

@@ -23,7 +23,7 @@ xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData) {
     return ctxt;
 }
 
-void feedPushParser(xmlParserCtxtPtr ctxt, const std::string& utf8, const bool& stop) {
+void feedPushParser(xmlParserCtxtPtr ctxt, std::string_view utf8, const bool& stop) {
     constexpr std::size_t kChunkSize = 64 * 1024;
     for (std::size_t offset = 0; offset < utf8.size() && !stop;) {
         const std::size_t size = std::min(kChunkSize, utf8.size() - offset);

@@ -27,7 +27,7 @@ void ensureParserInitialized();
 xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData);
 // Feeds the text in chunks of at most 64 KiB, the last one ending the
 // document; stops early once `stop` turns true.
-void feedPushParser(xmlParserCtxtPtr ctxt, const std::string& utf8, const bool& stop);
+void feedPushParser(xmlParserCtxtPtr ctxt, std::string_view utf8, const bool& stop);
 
 // The text as UTF-8 for libxml2, without a leading byte order mark (which
 // libxml2 would take for content once told the text is UTF-8).

@@ -2,10 +2,14 @@
 #include <libxml/parser.h>
 
 #include <cstdio>
+#include <cstring>
 #include <exception>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "kazxml/SAX.h"
@@ -25,11 +29,69 @@ std::wstring hex(long code) {
     return text;
 }
 
-// Answers the parser's current position, or that of the error being reported.
-class Locator final : public ISAXLocator {
+// Line and column of places in the text, asked for in increasing order so
+// that a whole parse reads the text once. Line breaks are "\n", "\r\n" and
+// "\r"; columns count characters (UTF-8 sequences).
+class TextPositions {
+public:
+    explicit TextPositions(std::string_view text) : text_(text) {}
+
+    // The position of the last "<" before byte `end`.
+    std::pair<int, int> tagStartBefore(std::size_t end) {
+        const std::size_t tag = end == 0 ? text_.npos : text_.rfind('<', end - 1);
+        if (tag != text_.npos) advanceTo(tag);
+        return {line_, column_};
+    }
+
+private:
+    void advanceTo(std::size_t target) {
+        const char* at = text_.data() + offset_;
+        const char* const end = text_.data() + target;
+        offset_ = target;
+        if (std::memchr(at, '\r', static_cast<std::size_t>(end - at)) != nullptr) {
+            for (; at < end; ++at) {
+                if (*at == '\n' || (*at == '\r' && at[1] != '\n')) {
+                    ++line_;
+                    column_ = 1;
+                } else if (*at != '\r') {
+                    column_ += startsCharacter(*at);
+                }
+            }
+            return;
+        }
+        while (const void* found = std::memchr(at, '\n', static_cast<std::size_t>(end - at))) {
+            ++line_;
+            column_ = 1;
+            at = static_cast<const char*>(found) + 1;
+        }
+        for (; at < end; ++at) column_ += startsCharacter(*at);
+    }
+
+    // Every byte but a UTF-8 continuation byte starts a character.
+    static int startsCharacter(char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+    }
+
+    std::string_view text_;
+    std::size_t offset_ = 0;
+    int line_ = 1;
+    int column_ = 1;
+};
+
+// Answers the parser's current position, or that of the error being
+// reported; during startElement also where the start tag begins.
+class Locator final : public ISAXLocator, public IStartTagLocator {
 public:
     void attach(const xmlParserCtxt* ctxt) { ctxt_ = ctxt; }
     void pin(const ErrorReport* report) { pinned_ = report; }
+    void setStartTag(std::optional<std::pair<int, int>> position) { startTag_ = position; }
+
+    long getStartTagPosition(int* line, int* column) override {
+        if (line == nullptr || column == nullptr) return E_POINTER;
+        if (!startTag_) return E_UNEXPECTED;
+        std::tie(*line, *column) = *startTag_;
+        return S_OK;
+    }
 
     long getColumnNumber(int* column) override {
         if (column == nullptr) return E_POINTER;
@@ -54,6 +116,7 @@ private:
 
     const xmlParserCtxt* ctxt_ = nullptr;
     const ErrorReport* pinned_ = nullptr;
+    std::optional<std::pair<int, int>> startTag_;
 };
 
 // One parse: the libxml2 push parser context and everything its callbacks
@@ -61,8 +124,8 @@ private:
 // callback into libxml2; it is kept and rethrown once the context is freed.
 class ParseSession {
 public:
-    ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors)
-        : content_(content), errors_(errors) {}
+    ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors, std::string_view utf8)
+        : content_(content), errors_(errors), utf8_(utf8), positions_(utf8) {}
     ~ParseSession() {
         if (ctxt_ == nullptr) return;
         // Once SAX is off, libxml2 may build a document of its own to keep
@@ -73,7 +136,7 @@ public:
     ParseSession(const ParseSession&) = delete;
     ParseSession& operator=(const ParseSession&) = delete;
 
-    long run(const std::string& utf8);
+    long run();
     std::exception_ptr exception() const { return exception_; }
     const std::wstring& description() const { return description_; }
 
@@ -119,6 +182,8 @@ private:
     xmlParserCtxtPtr ctxt_ = nullptr;
     ISAXContentHandler* content_;
     ISAXErrorHandler* errors_;
+    std::string_view utf8_;
+    TextPositions positions_;
     Locator locator_;
     detail::SAXAttributes attributes_;
     // Prefixes declared by each open element, for endPrefixMapping.
@@ -146,14 +211,14 @@ xmlSAXHandler ParseSession::makeHandler() {
     return handler;
 }
 
-long ParseSession::run(const std::string& utf8) {
+long ParseSession::run() {
     if (!open()) return E_OUTOFMEMORY;
     if (content_ != nullptr) deliver([&] { return content_->putDocumentLocator(&locator_); });
-    if (detail::blank(utf8)) {
+    if (detail::blank(utf8_)) {
         // libxml2 calls an empty text "extra content"; say what it is.
         if (!ended_) report(detail::emptyDocument(), XML_ERR_FATAL);
     } else {
-        detail::feedPushParser(ctxt_, utf8, ended_);
+        detail::feedPushParser(ctxt_, utf8_, ended_);
     }
     finish();
     return result_;
@@ -229,11 +294,15 @@ void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
     const std::wstring ns = detail::namespaceName(uri);
     const std::wstring local = toWide(localName);
     const std::wstring qName = detail::qualifiedName(prefix, localName);
+    // libxml2 reports a start tag once it has read it: its "<" lies before.
+    locator_.setStartTag(
+        positions_.tagStartBefore(static_cast<std::size_t>(xmlByteConsumed(ctxt_))));
     deliver([&] {
         return content_->startElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
                                       static_cast<int>(local.size()), qName.c_str(),
                                       static_cast<int>(qName.size()), &attributes_);
     });
+    locator_.setStartTag(std::nullopt);
 }
 
 void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
@@ -378,8 +447,8 @@ long SAXXMLReader::parse(const std::wstring& text) {
     long result = S_OK;
     std::exception_ptr exception;
     {
-        ParseSession session(contentHandler_, errorHandler_);
-        result = session.run(utf8);
+        ParseSession session(contentHandler_, errorHandler_, utf8);
+        result = session.run();
         exception = session.exception();
         errorDescription_ = session.description();
     }  // the parser context is freed here, before any exception goes on

@@ -243,6 +243,15 @@ private:
     // The tree builder; `kind` is the kind expected for the root element.
     static INodeCfg* createNodeCfg(const std::wstring* text, INodeCfg* parent, bool expectKind,
                                    INodeCfg::NodeType kind);
+    // How the tree builder reads a text.
+    struct BuildOptions {
+        std::optional<INodeCfg::NodeType> rootKind;  // the kind of the root element
+        // When set, only the first element of this name (no namespace) is
+        // built, and a text that does not load gives null, shown nowhere.
+        const wchar_t* onlyElement = nullptr;
+    };
+    static INodeCfg* buildTree(const std::wstring& text, INodeCfg* parent,
+                               const BuildOptions& options);
 
     static IXMLDOMDocument2Ptr createXMLDocument();
     static bool loadXMLContent(IXMLDOMDocument2Ptr doc, const std::wstring& text);
@@ -269,8 +278,9 @@ private:
     template <class I, class Impl>
     static I* createTyped(const std::wstring* text, INodeCfg* parent,
                           std::optional<INodeCfg::NodeType> expected);
-    // The form that reads through the document: the builder's node for the
-    // first element named `element`; an empty `Impl` when there is none.
+    // The builder's node for the first element named `element` (no
+    // namespace); an empty `Impl` when there is none or the text does not
+    // load.
     template <class I, class Impl>
     static I* createFromElement(const std::wstring* text, INodeCfg* parent,
                                 const std::wstring& element);

@@ -238,6 +238,25 @@ TEST_F(SAXReaderTest, MalformedTextEndsWithOneFatalError) {
     }
 }
 
+TEST_F(SAXReaderTest, StartTagsAreLocatedAtTheirLessThanSign) {
+    std::vector<std::pair<int, int>> starts;
+    content.react = [&](const std::wstring& event) {
+        auto& locator = dynamic_cast<IStartTagLocator&>(*content.locator);
+        int line = 0, column = 0;
+        const long result = locator.getStartTagPosition(&line, &column);
+        if (!event.starts_with(L"start ")) return result == E_UNEXPECTED ? S_OK : E_FAIL;
+        starts.emplace_back(line, column);
+        return result;
+    };
+    // Line breaks of every kind, one inside a tag, characters of several
+    // bytes, a tag beyond the first chunk given to libxml2.
+    const std::wstring text = L"<a>\r\n  <b k=\"1\"\n m=\"2\"/>\u00e9\u4e2d<c/>\r<d/>" +
+                              std::wstring(70000, L'x') + L"<e/></a>";
+    ASSERT_EQ(parse(text), S_OK) << reader.getErrorDescription();
+    EXPECT_EQ(starts,
+              (std::vector<std::pair<int, int>>{{1, 1}, {2, 3}, {3, 11}, {4, 1}, {4, 70005}}));
+}
+
 TEST_F(SAXReaderTest, WarningsAccumulateAndTheParseGoesOn) {
     EXPECT_EQ(parse(L"<a xmlns=\"relative\">\n<b xmlns=\"other\"/></a>"), S_OK);
     ASSERT_EQ(errors.reports.size(), 2u);

@@ -10,6 +10,7 @@ constexpr long E_FAIL = static_cast<int>(0x80004005u);
 constexpr long E_POINTER = static_cast<int>(0x80004003u);
 constexpr long E_INVALIDARG = static_cast<int>(0x80070057u);
 constexpr long E_OUTOFMEMORY = static_cast<int>(0x8007000Eu);
+constexpr long E_UNEXPECTED = static_cast<int>(0x8000FFFFu);
 // A parse error: this base plus the XML engine's own error number.
 constexpr long XML_E_PARSE_BASE = static_cast<int>(0xC00CE000u);
 // The reader's own refusals (document type declaration, nesting depth).

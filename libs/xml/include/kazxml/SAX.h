@@ -26,6 +26,18 @@ protected:
     virtual ~ISAXLocator() = default;
 };
 
+// The reader's locator answers this too: during startElement, where the
+// element's start tag begins, as the line and column of its "<" (both
+// counted from 1, the column in characters). E_UNEXPECTED outside
+// startElement.
+class KAZXML_API IStartTagLocator {
+public:
+    virtual long getStartTagPosition(int* line, int* column) = 0;
+
+protected:
+    virtual ~IStartTagLocator() = default;
+};
+
 // The attributes of one element, in document order. Namespace declarations
 // (xmlns, xmlns:prefix) are reported as attributes too, before the others.
 class KAZXML_API ISAXAttributes {
