@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "contentsink.h"
 #include "kazparser/IFeatureCfg.h"
 #include "kazxml/SAX.h"
 #include "leafnode.h"
@@ -11,7 +12,7 @@ namespace kaz::kazparser {
 // A feature element of any name: its attributes kept as one text, as read,
 // and its content, nested markup included, as its value. Nothing is escaped
 // when it is written.
-class FeatureCfgImpl final : public LeafNode<IFeatureCfg, FeatureCfgImpl> {
+class FeatureCfgImpl final : public LeafNode<IFeatureCfg, FeatureCfgImpl>, public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::FeatureCfgImpl";
 
@@ -33,6 +34,7 @@ public:
 
     bool setValue(const std::wstring& value) override;
     const std::wstring& appendValue(const std::wstring& text) override { return value_ += text; }
+    void appendText(const std::wstring& text) override { value_ += text; }
     void setName(const std::wstring& name) override { name_ = name; }
     const std::wstring& getValue() const override { return value_; }
     const std::wstring& getAttributesText() const override { return attributesText_; }

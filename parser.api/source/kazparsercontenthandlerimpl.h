@@ -4,10 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "kazparser/IFeatureCfg.h"
+#include "kazexception/IKAZException.h"
 #include "kazparser/INodeCfg.h"
 #include "kazsaxattributesimpl.h"
 #include "markupcapture.h"
+#include "nodekinds.h"
 #include "nodestackhandler.h"
 #include "tableobj/IElement.h"
 
@@ -15,8 +16,9 @@ namespace kaz::kazparser {
 
 // Builds a configuration tree from the reader's events: picks each
 // element's node kind by its name, by the kind expected for the root, or
-// by its parent's kind, and attaches every finished node to its parent.
-// Problems that do not stop the reader are collected in an error text.
+// by its parent's kind (the table of kinds), and attaches every finished
+// node to its parent. Problems that do not stop the reader are collected
+// in an error text.
 class KAZParserContentHandlerImpl final : public NodeStackHandler {
 public:
     explicit KAZParserContentHandlerImpl(INodeCfg* parent);
@@ -37,11 +39,27 @@ public:
     const std::wstring& errorText() const { return errorText_; }
 
 private:
-    INodeCfg* createNode(const std::wstring& name, KAZSAXAttributesImpl& attributes);
+    // What the builder does with the content of the innermost open element
+    // that made a node: the content model of its kind.
+    using Mode = kinds::Content;
+    Mode mode() const { return static_cast<Mode>(topMode()); }
+    // Raw, Markup and Value keep nested elements as content.
+    bool capturing() const;
+
+    // The kind of the element `name`, made with `parent`; null when it
+    // makes no node.
+    const kinds::Kind* chooseKind(const std::wstring& name, INodeCfg* parent);
+    void openNode(const kinds::Kind& kind, const std::wstring& name,
+                  KAZSAXAttributesImpl& attributes);
+    // An element inside a capturing node's element.
+    void captureStart(const std::wstring& name, KAZSAXAttributesImpl& attributes);
+    void captureEnd(const std::wstring& name);
     void attachToParent(INodeCfg* child, const std::wstring& name);
     void addError(const std::wstring& text);
+    void addException(const std::wstring& name, kazexception::IKAZException* e);
     // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
     void replaceRootDirectory(std::wstring& text);
+    void replaceRootDirectory(KAZSAXAttributesImpl& attributes);
     void freeRefused();
     // Hands the text collected since the last element event to where the
     // open element keeps it.
@@ -57,15 +75,9 @@ private:
     std::optional<INodeCfg::NodeType> expectedKind_;
     // Children their parent did not take; freed at the end of the document.
     std::vector<INodeCfg*> refused_;
-    // For each open element, whether its start made a node.
-    std::vector<bool> madeNode_;
     std::optional<std::wstring> rootDirectory_;
-    // Data mode: a data value's or reference's element is open, and its
-    // content is captured instead of making nodes.
-    bool dataMode_ = false;
-    // Raw mode: the feature whose element is open (the top node); all its
-    // content, nested markup included, is appended to its value as text.
-    IFeatureCfg* rawFeature_ = nullptr;
+    // Elements open inside the capturing node's element.
+    int nested_ = 0;
     MarkupCapture captured_;
     std::wstring pendingText_;
 };

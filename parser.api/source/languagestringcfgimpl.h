@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "characterdata.h"
+#include "contentsink.h"
 #include "kazparser/ILanguageStringCfg.h"
 #include "leafnode.h"
 
@@ -11,7 +11,7 @@ namespace kaz::kazparser {
 // "UseLanguageString": a string ID, the element's text, written escaped;
 // its display text comes from the working language.
 class LanguageStringCfgImpl final : public LeafNode<ILanguageStringCfg, LanguageStringCfgImpl>,
-                                    public CharacterDataReceiver {
+                                    public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::LanguageStringCfgImpl";
 
@@ -27,7 +27,7 @@ public:
     const std::wstring& getStringID() const override { return id_; }
     void setStringID(const std::wstring& id) override { id_ = id; }
     std::wstring getDisplayText() const override;
-    void appendCharacters(const std::wstring& text) override { id_ += text; }
+    void appendText(const std::wstring& text) override { id_ += text; }
 
 private:
     LanguageStringCfgImpl(const LanguageStringCfgImpl& other) = default;

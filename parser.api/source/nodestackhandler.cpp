@@ -4,7 +4,8 @@ namespace kaz::kazparser {
 
 NodeStackHandler::~NodeStackHandler() {
     // Each open element's node owns the children that were attached to it.
-    for (INodeCfg* node : stack_) delete node;
+    for (const Frame& frame : stack_)
+        if (frame.madeNode) delete frame.node;
     delete finishedRoot_;
 }
 
@@ -21,10 +22,10 @@ SourceLocation NodeStackHandler::startTagLocation() const {
 }
 
 INodeCfg* NodeStackHandler::pop() {
-    INodeCfg* node = stack_.back();
+    INodeCfg* node = stack_.back().node;
     stack_.pop_back();
     lastEnded_ = node;
-    if (stack_.empty() && node != finishedRoot_) {
+    if (top() == nullptr && node != finishedRoot_) {
         // Elements that made no node can leave several roots; the last one counts.
         delete finishedRoot_;
         finishedRoot_ = node;

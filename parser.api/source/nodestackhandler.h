@@ -1,7 +1,8 @@
 #pragma once
 
-#include <deque>
+#include <vector>
 
+#include "contentsink.h"
 #include "kazparser/INodeCfg.h"
 #include "kazparser/SourceLocation.h"
 #include "kazxml/SAX.h"
@@ -45,20 +46,40 @@ protected:
     // not tell.
     SourceLocation startTagLocation() const;
     INodeCfg* factoryParent() const { return parent_; }
-    INodeCfg* top() const { return stack_.empty() ? nullptr : stack_.back(); }
+    // The node of the innermost open element that made one; null when none.
+    INodeCfg* top() const { return stack_.empty() ? nullptr : stack_.back().node; }
+    // Where that node takes its element's content; null when it takes none.
+    ContentSink* topContent() const { return stack_.empty() ? nullptr : stack_.back().content; }
     // The parent of the next element's node.
-    INodeCfg* nextParent() const { return stack_.empty() ? parent_ : stack_.back(); }
-    bool hasOpenElements() const { return !stack_.empty(); }
-    void push(INodeCfg* node) { stack_.push_back(node); }
+    INodeCfg* nextParent() const { return top() != nullptr ? top() : parent_; }
+    // Opens an element whose node is `node`, taking its content through
+    // `content` (null: none) in the way `mode` tells the handler.
+    void push(INodeCfg* node, ContentSink* content, int mode = 0) {
+        stack_.push_back({node, content, mode, true});
+    }
+    // Opens an element that made no node: its content goes where its
+    // parent's goes.
+    void pushNoNode() { stack_.push_back({top(), topContent(), topMode(), false}); }
+    // The mode the innermost open element was pushed with; 0 when none is open.
+    int topMode() const { return stack_.empty() ? 0 : stack_.back().mode; }
+    bool topMadeNode() const { return stack_.back().madeNode; }
+    void popNoNode() { stack_.pop_back(); }
     // Takes the top node off the stack and records it as the last ended.
-    // When no element remains open it is the finished root, owned here;
+    // When no node remains open it is the finished root, owned here;
     // otherwise the caller must hand it to the new top (or keep it).
     INodeCfg* pop();
 
 private:
+    struct Frame {
+        INodeCfg* node;
+        ContentSink* content;
+        int mode;
+        bool madeNode;
+    };
+
     kaz::xml::IStartTagLocator* startTags_ = nullptr;
     INodeCfg* parent_;
-    std::deque<INodeCfg*> stack_;
+    std::vector<Frame> stack_;
     INodeCfg* lastEnded_ = nullptr;
     INodeCfg* finishedRoot_ = nullptr;
 };

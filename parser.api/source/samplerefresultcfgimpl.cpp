@@ -26,7 +26,7 @@ bool SampleRefResultCfgImpl::setChild(INodeCfg*) {
 }
 
 // Indentation around an empty content must not overwrite the attribute.
-void SampleRefResultCfgImpl::appendCharacters(const std::wstring& text) {
+void SampleRefResultCfgImpl::appendText(const std::wstring& text) {
     text_ += text;
     if (std::any_of(text_.begin(), text_.end(),
                     [](wchar_t c) { return std::iswspace(static_cast<wint_t>(c)) == 0; }))

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "characterdata.h"
+#include "contentsink.h"
 #include "kazparser/ISampleRefResultCfg.h"
 #include "kazxml/SAX.h"
 #include "sampleresultnode.h"
@@ -14,7 +14,7 @@ namespace kaz::kazparser {
 // not whitespace only, is the reference instead of the attribute.
 class SampleRefResultCfgImpl final
     : public SampleResultNode<ISampleRefResultCfg, SampleRefResultCfgImpl>,
-      public CharacterDataReceiver {
+      public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::SampleRefResultCfgImpl";
     static constexpr const wchar_t* kElementName = L"SampleRefResult";
@@ -31,7 +31,7 @@ public:
 
     const std::wstring& getRefData() const override { return refData_; }
     void setRefData(const std::wstring& refData) override { refData_ = refData; }
-    void appendCharacters(const std::wstring& text) override;
+    void appendText(const std::wstring& text) override;
 
     void addAttributes(StartTag& tag) const { tag.text(L"refData", refData_); }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "contentsink.h"
 #include "kazparser/ISelectTablesCfg.h"
 #include "kazxml/SAX.h"
 #include "leafnode.h"
@@ -11,7 +12,8 @@ namespace kaz::kazparser {
 
 // "SelectTables": its attributes in document order and its content as
 // markup, both written back so that they read again to the same node.
-class SelectTablesCfgImpl final : public LeafNode<ISelectTablesCfg, SelectTablesCfgImpl> {
+class SelectTablesCfgImpl final : public LeafNode<ISelectTablesCfg, SelectTablesCfgImpl>,
+                                  public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::SelectTablesCfgImpl";
 
@@ -35,6 +37,7 @@ public:
 
     const std::wstring& getContent() const override { return content_; }
     void setContent(const std::wstring& markup) override { content_ = markup; }
+    void takeMarkup(const std::wstring& markup) override { content_ = markup; }
 
 private:
     SelectTablesCfgImpl(const SelectTablesCfgImpl& other) = default;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "contentsink.h"
 #include "kazparser/IUseDataCfg.h"
 #include "leafnode.h"
 #include "tableobj/IScalar.h"
@@ -11,7 +12,7 @@ namespace kaz::kazparser {
 
 // A typed value: at most one owned table object, written inside the
 // element as the table object writes itself.
-class UseDataCfgImpl final : public LeafNode<IUseDataCfg, UseDataCfgImpl> {
+class UseDataCfgImpl final : public LeafNode<IUseDataCfg, UseDataCfgImpl>, public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseDataCfgImpl";
 
@@ -34,6 +35,7 @@ public:
     void setDouble(double value) override;
     void setString(const std::wstring& value) override;
     void setElementName(const std::wstring& name) override { name_ = name; }
+    void takeValue(tableobj::IElement* value) override { setValue(value); }
 
     // The element name of a value type; empty for the types without one.
     static const wchar_t* elementNameOf(tableobj::IElement::ElementType type);

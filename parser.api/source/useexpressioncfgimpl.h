@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "characterdata.h"
+#include "contentsink.h"
 #include "kazparser/IUseExpressionCfg.h"
 #include "leafnode.h"
 
@@ -10,7 +10,7 @@ namespace kaz::kazparser {
 
 // "UseExpression": an expression, the element's text, written escaped.
 class UseExpressionCfgImpl final : public LeafNode<IUseExpressionCfg, UseExpressionCfgImpl>,
-                                   public CharacterDataReceiver {
+                                   public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseExpressionCfgImpl";
 
@@ -27,7 +27,7 @@ public:
 
     const std::wstring& getExpression() const override { return expression_; }
     void setExpression(const std::wstring& expression) override { expression_ = expression; }
-    void appendCharacters(const std::wstring& text) override { expression_ += text; }
+    void appendText(const std::wstring& text) override { expression_ += text; }
 
 private:
     UseExpressionCfgImpl(const UseExpressionCfgImpl& other) = default;

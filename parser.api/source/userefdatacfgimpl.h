@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "contentsink.h"
 #include "kazparser/IUseRefDataCfg.h"
 #include "leafnode.h"
 
@@ -9,7 +10,8 @@ namespace kaz::kazparser {
 
 // A reference element ("UseData", "UseXValue") holding its content as XML
 // text, written back between its tags unchanged.
-class UseRefDataCfgImpl final : public LeafNode<IUseRefDataCfg, UseRefDataCfgImpl> {
+class UseRefDataCfgImpl final : public LeafNode<IUseRefDataCfg, UseRefDataCfgImpl>,
+                                public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseRefDataCfgImpl";
 
@@ -28,6 +30,7 @@ public:
 
     const std::wstring& getReference() const override { return reference_; }
     void setReference(const std::wstring& reference) override { reference_ = reference; }
+    void takeMarkup(const std::wstring& markup) override { reference_ = markup; }
     void setElementName(const std::wstring& name) override { name_ = name; }
 
 private:

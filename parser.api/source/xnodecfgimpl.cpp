@@ -68,7 +68,7 @@ bool XNodeCfgImpl::writeXml(IXmlWriter& out) const {
     return out.write(endTag(name));
 }
 
-void XNodeCfgImpl::endOfElement() {
+void XNodeCfgImpl::endOfContent() {
     const bool blank = std::all_of(text_.begin(), text_.end(),
                                    [](wchar_t c) { return std::iswspace(static_cast<wint_t>(c)); });
     if (blank && getCount() > 0) text_.clear();

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "contentsink.h"
 #include "kazparser/IXNodeCfg.h"
 #include "kazxml/SAX.h"
 #include "nodecollection.h"
@@ -11,7 +12,8 @@ namespace kaz::kazparser {
 
 // A generic element: name, attributes in document order, text, and child
 // nodes of any kind.
-class XNodeCfgImpl final : public NodeCollection<IXNodeCfg, INodeCfg, XNodeCfgImpl> {
+class XNodeCfgImpl final : public NodeCollection<IXNodeCfg, INodeCfg, XNodeCfgImpl>,
+                           public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::XNodeCfgImpl";
 
@@ -44,9 +46,9 @@ public:
     void getChildValue(const std::wstring& childName, double& value) const override;
     void getChildValue(const std::wstring& childName, bool& value) const override;
 
-    // Called when the element's end tag was read: whitespace-only text
-    // between child elements is indentation, not content, and is dropped.
-    void endOfElement();
+    // Whitespace-only text between child elements is indentation, not
+    // content, and is dropped.
+    void endOfContent() override;
 
 private:
     XNodeCfgImpl(const XNodeCfgImpl& other) = default;

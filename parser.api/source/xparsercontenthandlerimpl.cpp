@@ -17,16 +17,16 @@ long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(name, attributes, nextParent()));
     node->locate(startTagLocation());
-    push(node.get());
+    push(node.get(), node.get());
     node.release();
     return kaz::xml::S_OK;
 }
 
 long XParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                            const wchar_t* qName, int qNameLength) {
+    topContent()->endOfContent();
     INodeCfg* child = pop();
-    if (auto* generic = dynamic_cast<XNodeCfgImpl*>(child)) generic->endOfElement();
-    if (!hasOpenElements()) return kaz::xml::S_OK;
+    if (top() == nullptr) return kaz::xml::S_OK;
     std::unique_ptr<INodeCfg> refused(child);
     if (top()->setChild(child)) {
         refused.release();
@@ -39,11 +39,10 @@ long XParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, 
 
 long XParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
     const std::wstring text(chars, static_cast<std::size_t>(length));
-    auto* node = dynamic_cast<IXNodeCfg*>(top());
-    if (node == nullptr)
+    if (topContent() == nullptr)
         errors::parsing(L"Configure invalid at '" + text + L"'",
                         KAZ_HERE(kClassName, L"characters"));
-    node->appendText(text);
+    topContent()->appendText(text);
     return kaz::xml::S_OK;
 }
 

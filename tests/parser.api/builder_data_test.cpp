@@ -206,8 +206,11 @@ TEST_F(BuilderDataTest, ReferencesKeepTheirWholeContentAsMarkup) {
 }
 
 TEST_F(BuilderDataTest, LanguageStringsJoinTheirTextPieces) {
-    auto holder =
-        build(L"<Holder><UseLanguageString>IDS_&amp;<![CDATA[<1>]]>2</UseLanguageString></Holder>");
+    // A nested element makes a node the string refuses; the text around it
+    // is the string's.
+    auto holder = build(
+        L"<Holder><UseLanguageString>IDS_&amp;<![CDATA[<1>]]><x>y</x>2</UseLanguageString></"
+        L"Holder>");
     auto* text = onlyChild<ILanguageStringCfg>(holder);
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(text->getStringID(), L"IDS_&<1>2");
