@@ -15,49 +15,13 @@ namespace {
 
 using kaz::kazparser::INodeCfg;
 
-const char* kindName(INodeCfg::NodeType kind) {
-    static const char* const names[] = {"Param",
-                                        "ExtParam",
-                                        "ExtParams",
-                                        "DataCollector",
-                                        "DataModifier",
-                                        "Presenter",
-                                        "UseRefPresentationElement",
-                                        "UseFixedPresentationElement",
-                                        "Features",
-                                        "Feature",
-                                        "ParamSets",
-                                        "ParamSet",
-                                        "UsePresenter",
-                                        "UseDataCollector",
-                                        "UseDataModifiers",
-                                        "XValue",
-                                        "UseData",
-                                        "UseExpression",
-                                        "UseEngine",
-                                        "UseRefData",
-                                        "SelectTables",
-                                        "InputConfig",
-                                        "OutputConfig",
-                                        "PresentationElement",
-                                        "PresentationElements",
-                                        "PresentationGroup",
-                                        "XNode",
-                                        "ExtraValuesConfig",
-                                        "SampleResults",
-                                        "SampleFixedResult",
-                                        "SampleRefResult"};
-    const auto index = static_cast<std::size_t>(kind);
-    return index < std::size(names) ? names[index] : "?";
-}
-
 std::string utf8(const std::wstring& text) {
     return ioutils::utf8FromWide(text);
 }
 
 void printTree(const INodeCfg& node, int depth) {
     std::cout << std::string(static_cast<std::size_t>(depth) * 2, ' ') << utf8(node.getName())
-              << " [" << kindName(node.getNodeType()) << "]\n";
+              << " [" << utf8(std::wstring(kaz::kazparser::kindName(node.getNodeType()))) << "]\n";
     for (unsigned int i = 0; i < node.getChildCount(); ++i)
         if (const INodeCfg* child = node.getChild(i)) printTree(*child, depth + 1);
 }

@@ -44,6 +44,7 @@
 #include "kazparser/IXNodeCfg.h"
 #include "kazparser/IXValueCfg.h"
 #include "kazparser/KAZConfigFactory.h"
+#include "kazparser/NodeKind.h"
 #include "kazparser/SourceLocation.h"
 #include "kazparser/XmlEscaping.h"
 #include "kazxml/PlatformError.h"

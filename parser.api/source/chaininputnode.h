@@ -9,6 +9,7 @@
 #include "kazparser/IUseDataCollectorCfg.h"
 #include "kazparser/IUseDataModifiersCfg.h"
 #include "nodeimpl.h"
+#include "usedatacfgimpl.h"
 #include "xmltags.h"
 
 namespace kaz::kazparser {
@@ -77,7 +78,8 @@ public:
                 setUseDataModifiers(dynamic_cast<IUseDataModifiersCfg*>(child));
                 return true;
             case INodeCfg::UseData:
-                if (child->getName() != L"UseTables") return false;
+                if (child->getName() != UseDataCfgImpl::elementNameOf(tableobj::IElement::Tables))
+                    return false;
                 setUseTables(dynamic_cast<IUseDataCfg*>(child));
                 return true;
             default:

@@ -12,7 +12,6 @@ class DataCollectorCfgImpl final : public PlugInNode<IDataCollectorCfg, DataColl
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::DataCollectorCfgImpl";
     static constexpr NodeType kNodeType = DataCollector;
-    static constexpr std::wstring_view kFallbackName{};
 
     explicit DataCollectorCfgImpl(INodeCfg* parent);
     DataCollectorCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,

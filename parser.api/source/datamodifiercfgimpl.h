@@ -13,7 +13,6 @@ class DataModifierCfgImpl final : public PlugInNode<IDataModifierCfg, DataModifi
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::DataModifierCfgImpl";
     static constexpr NodeType kNodeType = DataModifier;
-    static constexpr std::wstring_view kFallbackName{L"DataModifiers"};
 
     explicit DataModifierCfgImpl(INodeCfg* parent);
     DataModifierCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,

@@ -1,5 +1,7 @@
 #include "extparamcfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
@@ -13,8 +15,7 @@ ExtParamCfgImpl::ExtParamCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg*
 }
 
 const std::wstring& ExtParamCfgImpl::getName() const {
-    static const std::wstring name = L"ExtParam";
-    return name;
+    return kinds::tag(INodeCfg::ExtParam);
 }
 
 bool ExtParamCfgImpl::writeXml(IXmlWriter& out) const {

@@ -1,5 +1,7 @@
 #include "extparamscfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -15,8 +17,7 @@ ExtParamsCfgImpl::ExtParamsCfgImpl(const ExtParamsCfgImpl& other) : NodeCollecti
 }
 
 const std::wstring& ExtParamsCfgImpl::getName() const {
-    static const std::wstring name = L"ExtParams";
-    return name;
+    return kinds::tag(INodeCfg::ExtParams);
 }
 
 unsigned int ExtParamsCfgImpl::append(INodeCfg* item) {

@@ -1,10 +1,11 @@
 #include "extravaluesconfigcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& ExtraValuesConfigCfgImpl::getName() const {
-    static const std::wstring name = L"ExtraValuesConfig";
-    return name;
+    return kinds::tag(INodeCfg::ExtraValuesConfig);
 }
 
 bool ExtraValuesConfigCfgImpl::hasXValue(const std::wstring& name) const {

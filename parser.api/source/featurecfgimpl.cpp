@@ -1,13 +1,14 @@
 #include "featurecfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
 namespace {
 
 const std::wstring& defaultName() {
-    static const std::wstring name = L"Feature";
-    return name;
+    return kinds::tag(INodeCfg::Feature);
 }
 
 }  // namespace

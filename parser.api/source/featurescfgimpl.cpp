@@ -1,5 +1,7 @@
 #include "featurescfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 FeaturesCfgImpl::FeaturesCfgImpl(const FeaturesCfgImpl& other) : NodeCollection(other) {
@@ -7,8 +9,7 @@ FeaturesCfgImpl::FeaturesCfgImpl(const FeaturesCfgImpl& other) : NodeCollection(
 }
 
 const std::wstring& FeaturesCfgImpl::getName() const {
-    static const std::wstring name = L"Features";
-    return name;
+    return kinds::tag(INodeCfg::Features);
 }
 
 unsigned int FeaturesCfgImpl::append(INodeCfg* item) {

@@ -1,10 +1,11 @@
 #include "inputconfigcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& InputConfigCfgImpl::getName() const {
-    static const std::wstring name = L"InputConfig";
-    return name;
+    return kinds::tag(INodeCfg::InputConfig);
 }
 
 }  // namespace kaz::kazparser

@@ -22,6 +22,7 @@
 #include "markupcapture.h"
 #include "messagesink.h"
 #include "nodeerrors.h"
+#include "nodekinds.h"
 #include "outputconfigcfgimpl.h"
 #include "paramcfgimpl.h"
 #include "paramsetcfgimpl.h"
@@ -331,11 +332,13 @@ IXValueCfg* KAZConfigFactory::createXValueCfg(const std::wstring* text, INodeCfg
 }
 
 IExtParamsCfg* KAZConfigFactory::createExtParamsCfg(const std::wstring* text, INodeCfg* parent) {
-    return createFromElement<IExtParamsCfg, ExtParamsCfgImpl>(text, parent, L"ExtParams");
+    return createFromElement<IExtParamsCfg, ExtParamsCfgImpl>(text, parent,
+                                                              kinds::tag(INodeCfg::ExtParams));
 }
 
 IExtParamCfg* KAZConfigFactory::createExtParamCfg(const std::wstring* text, INodeCfg* parent) {
-    return createFromElement<IExtParamCfg, ExtParamCfgImpl>(text, parent, L"ExtParam");
+    return createFromElement<IExtParamCfg, ExtParamCfgImpl>(text, parent,
+                                                            kinds::tag(INodeCfg::ExtParam));
 }
 
 KAZ_MARKUP_FORMS(IParamSetsCfg, createParamSetsCfg)
@@ -391,7 +394,8 @@ KAZ_MARKUP_FORMS(IPresenterCfg, createPresenterCfg)
 
 IUsePresenterCfg* KAZConfigFactory::createUsePresenterCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
-    return createFromElement<IUsePresenterCfg, UsePresenterCfgImpl>(text, parent, L"UsePresenter");
+    return createFromElement<IUsePresenterCfg, UsePresenterCfgImpl>(
+        text, parent, kinds::tag(INodeCfg::UsePresenter));
 }
 
 KAZ_MARKUP_FORMS(IUsePresenterCfg, createUsePresenterCfg)
@@ -404,14 +408,16 @@ IUseExpressionCfg* KAZConfigFactory::createUseExpressionCfg(const std::wstring* 
 KAZ_MARKUP_FORMS(IUseExpressionCfg, createUseExpressionCfg)
 
 IUseEngineCfg* KAZConfigFactory::createUseEngineCfg(const std::wstring* text, INodeCfg* parent) {
-    return createFromElement<IUseEngineCfg, UseEngineCfgImpl>(text, parent, L"UseEngine");
+    return createFromElement<IUseEngineCfg, UseEngineCfgImpl>(text, parent,
+                                                              kinds::tag(INodeCfg::UseEngine));
 }
 
 KAZ_MARKUP_FORMS(IUseEngineCfg, createUseEngineCfg)
 
 ISelectTablesCfg* KAZConfigFactory::createSelectTablesCfg(const std::wstring* text,
                                                           INodeCfg* parent) {
-    return createFromElement<ISelectTablesCfg, SelectTablesCfgImpl>(text, parent, L"SelectTables");
+    return createFromElement<ISelectTablesCfg, SelectTablesCfgImpl>(
+        text, parent, kinds::tag(INodeCfg::SelectTables));
 }
 
 KAZ_MARKUP_FORMS(ISelectTablesCfg, createSelectTablesCfg)
@@ -449,16 +455,16 @@ KAZ_MARKUP_FORMS(IDataModifierCfg, createDataModifierCfg)
 
 IUseDataCollectorCfg* KAZConfigFactory::createUseDataCollectorCfg(const std::wstring* text,
                                                                   INodeCfg* parent) {
-    return createFromElement<IUseDataCollectorCfg, UseDataCollectorCfgImpl>(text, parent,
-                                                                            L"UseDataCollector");
+    return createFromElement<IUseDataCollectorCfg, UseDataCollectorCfgImpl>(
+        text, parent, kinds::tag(INodeCfg::UseDataCollector));
 }
 
 KAZ_MARKUP_FORMS(IUseDataCollectorCfg, createUseDataCollectorCfg)
 
 IUseDataModifiersCfg* KAZConfigFactory::createUseDataModifiersCfg(const std::wstring* text,
                                                                   INodeCfg* parent) {
-    return createFromElement<IUseDataModifiersCfg, UseDataModifiersCfgImpl>(text, parent,
-                                                                            L"UseDataModifiers");
+    return createFromElement<IUseDataModifiersCfg, UseDataModifiersCfgImpl>(
+        text, parent, kinds::tag(INodeCfg::UseDataModifiers));
 }
 
 KAZ_MARKUP_FORMS(IUseDataModifiersCfg, createUseDataModifiersCfg)
@@ -506,7 +512,7 @@ KAZ_MARKUP_FORMS(IPresentationGroupCfg, createPresentationGroupCfg)
 IPresentationElementsCfg* KAZConfigFactory::createPresentationElementsCfg(const std::wstring* text,
                                                                           INodeCfg* parent) {
     return createFromElement<IPresentationElementsCfg, PresentationElementsCfgImpl>(
-        text, parent, L"PresentationElements");
+        text, parent, kinds::tag(INodeCfg::PresentationElements));
 }
 
 KAZ_MARKUP_FORMS(IPresentationElementsCfg, createPresentationElementsCfg)

@@ -1,13 +1,14 @@
 #include "languagestringcfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "kazparser/XmlEscaping.h"
 #include "languagemanager.h"
 
 namespace kaz::kazparser {
 
 const std::wstring& LanguageStringCfgImpl::getName() const {
-    static const std::wstring name = L"UseLanguageString";
-    return name;
+    return kinds::languageStringTag();
 }
 
 bool LanguageStringCfgImpl::writeXml(IXmlWriter& out) const {

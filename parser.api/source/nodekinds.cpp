@@ -1,5 +1,7 @@
 #include "nodekinds.h"
 
+#include "kazparser/NodeKind.h"
+
 #include <array>
 #include <type_traits>
 #include <unordered_map>
@@ -201,4 +203,22 @@ const Kind& languageString() {
     return languageStringKind();
 }
 
+const std::wstring& languageStringTag() {
+    static const std::wstring tag(languageStringKind().tag);
+    return tag;
+}
+
 }  // namespace kaz::kazparser::kinds
+
+namespace kaz::kazparser {
+
+// The class name without its namespace and "CfgImpl".
+std::wstring_view kindName(INodeCfg::NodeType type) {
+    if (static_cast<unsigned>(type) > INodeCfg::SampleRefResult) return {};
+    std::wstring_view name = kinds::of(type).className;
+    name.remove_prefix(name.rfind(L':') + 1);
+    name.remove_suffix(std::wstring_view(L"CfgImpl").size());
+    return name;
+}
+
+}  // namespace kaz::kazparser

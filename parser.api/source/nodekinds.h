@@ -66,5 +66,6 @@ const Kind& childOf(INodeCfg::NodeType parentType);
 // The tag of `type`, as a string that lives as long as the process.
 const std::wstring& tag(INodeCfg::NodeType type);
 const Kind& languageString();
+const std::wstring& languageStringTag();
 
 }  // namespace kaz::kazparser::kinds

@@ -1,5 +1,7 @@
 #include "outputconfigcfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "fixedchildren.h"
 #include "xmltags.h"
 
@@ -25,8 +27,7 @@ OutputConfigCfgImpl::OutputConfigCfgImpl(const OutputConfigCfgImpl& other) : Nod
 }
 
 const std::wstring& OutputConfigCfgImpl::getName() const {
-    static const std::wstring name = L"OutputConfig";
-    return name;
+    return kinds::tag(INodeCfg::OutputConfig);
 }
 
 unsigned int OutputConfigCfgImpl::getChildCount() const {

@@ -1,4 +1,5 @@
 #include "paramcfgimpl.h"
+#include "nodekinds.h"
 
 #include <cmath>
 
@@ -14,7 +15,7 @@ constexpr double kShiftThreshold = 0.0001;
 }  // namespace
 
 ParamCfgImpl::ParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {
-    name_ = L"Param";
+    name_ = kinds::tag(INodeCfg::Param);
 }
 
 ParamCfgImpl::ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,

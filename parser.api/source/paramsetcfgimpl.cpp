@@ -1,5 +1,7 @@
 #include "paramsetcfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "kazparser/IUseDataCfg.h"
 #include "saxattributes.h"
 #include "tableobj/IScalar.h"
@@ -27,7 +29,7 @@ ParamSetCfgImpl::ParamSetCfgImpl(const std::wstring& name, kaz::xml::ISAXAttribu
 }
 
 const std::wstring& ParamSetCfgImpl::getName() const {
-    static const std::wstring defaultName = L"ParamSet";
+    const std::wstring& defaultName = kinds::tag(INodeCfg::ParamSet);
     return elementName_.empty() ? defaultName : elementName_;
 }
 

@@ -1,12 +1,13 @@
 #include "paramsetscfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <algorithm>
 
 namespace kaz::kazparser {
 
 const std::wstring& ParamSetsCfgImpl::getName() const {
-    static const std::wstring name = L"ParamSets";
-    return name;
+    return kinds::tag(INodeCfg::ParamSets);
 }
 
 bool ParamSetsCfgImpl::hasParamSet(const std::wstring& name) const {

@@ -8,6 +8,7 @@
 #include "kazxml/SAX.h"
 #include "nodeerrors.h"
 #include "nodeimpl.h"
+#include "nodekinds.h"
 #include "saxattributes.h"
 #include "xmltags.h"
 
@@ -19,8 +20,6 @@ namespace kaz::kazparser {
 // `Derived` the implementation class, which supplies
 //   kClassName    its qualified name, for error contexts;
 //   kNodeType     its node type;
-//   kFallbackName the element name written while the stored name is empty
-//                 (empty for none);
 // and clone(), through the copy constructor below.
 template <class Interface, class Derived>
 class PlugInNode : public NodeImpl<Interface> {
@@ -101,7 +100,7 @@ protected:
 
 private:
     std::wstring writtenName() const {
-        return name_.empty() ? std::wstring(Derived::kFallbackName) : name_;
+        return name_.empty() ? kinds::tag(Derived::kNodeType) : name_;
     }
 
     std::wstring engineFile_;

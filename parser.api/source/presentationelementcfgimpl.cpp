@@ -1,10 +1,11 @@
 #include "presentationelementcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& PresentationElementCfgImpl::tag() {
-    static const std::wstring name = L"PresentationElement";
-    return name;
+    return kinds::tag(INodeCfg::PresentationElement);
 }
 
 PresentationElementCfgImpl::PresentationElementCfgImpl(const PresentationElementCfgImpl& other)

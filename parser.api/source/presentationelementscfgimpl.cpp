@@ -1,5 +1,7 @@
 #include "presentationelementscfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <memory>
 
 #include "kazparser/IUseFixedPresentationElementCfg.h"
@@ -30,8 +32,7 @@ void copyAttributes(const IUsePresentationElementCfg& source, IUsePresentationEl
 }  // namespace
 
 const std::wstring& PresentationElementsCfgImpl::getName() const {
-    static const std::wstring name = L"PresentationElements";
-    return name;
+    return kinds::tag(INodeCfg::PresentationElements);
 }
 
 // Each entry is replaced only once its fixed reference is complete, so an

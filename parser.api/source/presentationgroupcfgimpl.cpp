@@ -1,10 +1,11 @@
 #include "presentationgroupcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& PresentationGroupCfgImpl::tag() {
-    static const std::wstring name = L"PresentationGroup";
-    return name;
+    return kinds::tag(INodeCfg::PresentationGroup);
 }
 
 PresentationGroupCfgImpl::PresentationGroupCfgImpl(const AttributeList& attributes,

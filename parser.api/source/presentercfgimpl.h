@@ -13,7 +13,6 @@ class PresenterCfgImpl final : public PlugInNode<IPresenterCfg, PresenterCfgImpl
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::PresenterCfgImpl";
     static constexpr NodeType kNodeType = Presenter;
-    static constexpr std::wstring_view kFallbackName{L"Presenter"};
 
     explicit PresenterCfgImpl(INodeCfg* parent);
     PresenterCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,

@@ -13,7 +13,6 @@ class SampleFixedResultCfgImpl final
     : public SampleResultNode<ISampleFixedResultCfg, SampleFixedResultCfgImpl> {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::SampleFixedResultCfgImpl";
-    static constexpr const wchar_t* kElementName = L"SampleFixedResult";
     static constexpr NodeType kNodeType = SampleFixedResult;
 
     explicit SampleFixedResultCfgImpl(INodeCfg* parent) : SampleResultNode(parent) {}

@@ -17,7 +17,6 @@ class SampleRefResultCfgImpl final
       public ContentSink {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::SampleRefResultCfgImpl";
-    static constexpr const wchar_t* kElementName = L"SampleRefResult";
     static constexpr NodeType kNodeType = SampleRefResult;
 
     explicit SampleRefResultCfgImpl(INodeCfg* parent) : SampleResultNode(parent) {}

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "nodeimpl.h"
+#include "nodekinds.h"
 #include "saxattributes.h"
 #include "xmltags.h"
 
@@ -12,15 +13,12 @@ namespace kaz::kazparser {
 // The state and behaviour shared by the sample entries: the "name" and
 // "desc" texts, a fixed element name and writing the whole element as one
 // piece. `Interface` is the kind's interface (an ISampleResultCfg), `Derived`
-// the implementation class, which supplies kElementName, kNodeType and
+// the implementation class, which supplies kNodeType and
 // addAttributes(StartTag&), the attributes it writes after "desc".
 template <class Interface, class Derived>
 class SampleResultNode : public NodeImpl<Interface> {
 public:
-    const std::wstring& getName() const override {
-        static const std::wstring name(Derived::kElementName);
-        return name;
-    }
+    const std::wstring& getName() const override { return kinds::tag(Derived::kNodeType); }
     INodeCfg::NodeType getNodeType() const override { return Derived::kNodeType; }
 
     const std::wstring& getSampleName() const override { return name_; }

@@ -1,5 +1,7 @@
 #include "sampleresultscfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "saxattributes.h"
 #include "xmltags.h"
 
@@ -17,8 +19,7 @@ SampleResultsCfgImpl::SampleResultsCfgImpl(const SampleResultsCfgImpl& other)
 }
 
 const std::wstring& SampleResultsCfgImpl::getName() const {
-    static const std::wstring name = L"SampleResults";
-    return name;
+    return kinds::tag(INodeCfg::SampleResults);
 }
 
 bool SampleResultsCfgImpl::writeXml(IXmlWriter& out) const {

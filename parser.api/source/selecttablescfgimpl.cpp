@@ -1,5 +1,7 @@
 #include "selecttablescfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <algorithm>
 
 #include "markupcapture.h"
@@ -10,8 +12,7 @@ SelectTablesCfgImpl::SelectTablesCfgImpl(kaz::xml::ISAXAttributes* attributes, I
     : LeafNode(parent), attributes_(readAttributes(attributes)) {}
 
 const std::wstring& SelectTablesCfgImpl::getName() const {
-    static const std::wstring name = L"SelectTables";
-    return name;
+    return kinds::tag(INodeCfg::SelectTables);
 }
 
 // The start tag is written with the exact escaping of captured markup, so

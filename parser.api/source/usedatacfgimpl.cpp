@@ -1,5 +1,7 @@
 #include "usedatacfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <array>
 #include <utility>
 
@@ -34,7 +36,7 @@ UseDataCfgImpl::UseDataCfgImpl(const UseDataCfgImpl& other)
       value_(other.value_ ? other.value_->clone() : nullptr) {}
 
 const std::wstring& UseDataCfgImpl::getName() const {
-    static const std::wstring defaultName = L"UseData";
+    const std::wstring& defaultName = kinds::tag(INodeCfg::UseData);
     return name_.empty() ? defaultName : name_;
 }
 

@@ -1,5 +1,7 @@
 #include "usedatacollectorcfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "nodeerrors.h"
 #include "xmltags.h"
 
@@ -12,8 +14,7 @@ UseDataCollectorCfgImpl::UseDataCollectorCfgImpl(const UseDataCollectorCfgImpl& 
 }
 
 const std::wstring& UseDataCollectorCfgImpl::getName() const {
-    static const std::wstring name = L"UseDataCollector";
-    return name;
+    return kinds::tag(INodeCfg::UseDataCollector);
 }
 
 unsigned int UseDataCollectorCfgImpl::getChildCount() const {

@@ -1,10 +1,11 @@
 #include "usedatamodifierscfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& UseDataModifiersCfgImpl::getName() const {
-    static const std::wstring name = L"UseDataModifiers";
-    return name;
+    return kinds::tag(INodeCfg::UseDataModifiers);
 }
 
 IDataModifierCfg* UseDataModifiersCfgImpl::operator[](const std::wstring& name) const {

@@ -1,10 +1,11 @@
 #include "useenginecfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& UseEngineCfgImpl::getName() const {
-    static const std::wstring name = L"UseEngine";
-    return name;
+    return kinds::tag(INodeCfg::UseEngine);
 }
 
 }  // namespace kaz::kazparser

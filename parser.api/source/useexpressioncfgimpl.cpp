@@ -1,12 +1,13 @@
 #include "useexpressioncfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "kazparser/XmlEscaping.h"
 
 namespace kaz::kazparser {
 
 const std::wstring& UseExpressionCfgImpl::getName() const {
-    static const std::wstring name = L"UseExpression";
-    return name;
+    return kinds::tag(INodeCfg::UseExpression);
 }
 
 // The whole element is handed over as one piece.

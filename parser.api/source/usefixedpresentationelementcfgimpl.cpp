@@ -1,10 +1,11 @@
 #include "usefixedpresentationelementcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& UseFixedPresentationElementCfgImpl::tag() {
-    static const std::wstring name = L"UseFixedPresentationElement";
-    return name;
+    return kinds::tag(INodeCfg::UseFixedPresentationElement);
 }
 
 UseFixedPresentationElementCfgImpl::UseFixedPresentationElementCfgImpl(

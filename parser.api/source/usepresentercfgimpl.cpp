@@ -1,5 +1,7 @@
 #include "usepresentercfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "fixedchildren.h"
 #include "xmltags.h"
 
@@ -14,8 +16,7 @@ UsePresenterCfgImpl::UsePresenterCfgImpl(const UsePresenterCfgImpl& other) : Nod
 }
 
 const std::wstring& UsePresenterCfgImpl::getName() const {
-    static const std::wstring name = L"UsePresenter";
-    return name;
+    return kinds::tag(INodeCfg::UsePresenter);
 }
 
 std::array<INodeCfg*, 3> UsePresenterCfgImpl::slots() const {

@@ -1,9 +1,11 @@
 #include "userefdatacfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& UseRefDataCfgImpl::getName() const {
-    static const std::wstring defaultName = L"UseData";
+    const std::wstring& defaultName = kinds::tag(INodeCfg::UseData);
     return name_.empty() ? defaultName : name_;
 }
 

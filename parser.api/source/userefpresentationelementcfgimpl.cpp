@@ -1,10 +1,11 @@
 #include "userefpresentationelementcfgimpl.h"
 
+#include "nodekinds.h"
+
 namespace kaz::kazparser {
 
 const std::wstring& UseRefPresentationElementCfgImpl::tag() {
-    static const std::wstring name = L"UseRefPresentationElement";
-    return name;
+    return kinds::tag(INodeCfg::UseRefPresentationElement);
 }
 
 UseRefPresentationElementCfgImpl::UseRefPresentationElementCfgImpl(const AttributeList& attributes,

@@ -1,5 +1,7 @@
 #include "xnodecfgimpl.h"
 
+#include "nodekinds.h"
+
 #include <algorithm>
 #include <cwctype>
 
@@ -49,7 +51,7 @@ XNodeCfgImpl::XNodeCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* a
     : NodeCollection(parent), name_(name), attributes_(readAttributes(attributes)) {}
 
 const std::wstring& XNodeCfgImpl::getName() const {
-    static const std::wstring defaultName = L"XNode";
+    const std::wstring& defaultName = kinds::tag(INodeCfg::XNode);
     return name_.empty() ? defaultName : name_;
 }
 

@@ -1,5 +1,7 @@
 #include "xvaluecfgimpl.h"
 
+#include "nodekinds.h"
+
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
@@ -15,8 +17,7 @@ XValueCfgImpl::XValueCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* par
 }
 
 const std::wstring& XValueCfgImpl::getName() const {
-    static const std::wstring name = L"XValue";
-    return name;
+    return kinds::tag(INodeCfg::XValue);
 }
 
 bool XValueCfgImpl::writeXml(IXmlWriter& out) const {

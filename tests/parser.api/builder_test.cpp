@@ -196,6 +196,15 @@ TEST_F(BuilderTest, NodesReadFromTextKnowWhereTheyStart) {
     EXPECT_EQ(sourceLocation(nullptr), std::nullopt);
 }
 
+TEST_F(BuilderTest, KindNamesFollowTheNodeTypes) {
+    using kaz::kazparser::kindName;
+    EXPECT_EQ(kindName(INodeCfg::Param), L"Param");
+    EXPECT_EQ(kindName(INodeCfg::UseData), L"UseData");
+    EXPECT_EQ(kindName(INodeCfg::UseRefData), L"UseRefData");
+    EXPECT_EQ(kindName(INodeCfg::SampleRefResult), L"SampleRefResult");
+    EXPECT_EQ(kindName(static_cast<INodeCfg::NodeType>(31)), L"");
+}
+
 TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
     const std::wstring texts[] = {L"<r a=\"1\"><b><c/></b><d/></r>", L"<r><Tables/></r>",
                                   L"<r><b></r>"};
