@@ -95,20 +95,6 @@ TEST_F(XNodeTest, ListOperationsKeepOrderAndHandBackDetachedItems) {
     EXPECT_EQ(MemObject::liveCount(), live - 4);
 }
 
-TEST_F(XNodeTest, CloneIsDeepAndKeepsTheSourceParent) {
-    auto holder = parseGeneric(L"<holder/>");
-    auto source = parseGeneric(L"<r k=\"v\">t<a><b/></a></r>", holder.get());
-    NodePtr<IXNodeCfg> copy(dynamic_cast<IXNodeCfg*>(source->clone()));
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->getParent(), holder.get());
-    EXPECT_EQ(copy->getChild(0)->getParent(), copy.get());
-    EXPECT_EQ(copy->getChild(0)->getChild(0)->getParent(), copy->getChild(0));
-    EXPECT_EQ(copy->toXml(), source->toXml());
-    copy->setAttribute(L"k", L"changed");
-    dynamic_cast<IXNodeCfg*>(copy->getChild(0))->setText(L"new");
-    EXPECT_EQ(source->toXml(), L"<r k=\"v\">t<a><b></b></a></r>");
-}
-
 TEST_F(XNodeTest, AttributesByPositionAndName) {
     auto node = parseGeneric(L"<r a=\"1\" b=\"2\"/>");
     EXPECT_EQ(node->getAttributeCount(), 2u);
