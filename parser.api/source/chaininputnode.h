@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "childslot.h"
 #include "fixedchildren.h"
 #include "kazparser/IUseDataCfg.h"
 #include "kazparser/IUseDataCollectorCfg.h"
@@ -18,7 +17,6 @@ namespace kaz::kazparser {
 // configuration: tables ("UseTables") or a collector reference as
 // alternative inputs, then an optional modifier list. `Interface` is the
 // kind's interface, `Derived` the implementation class, which supplies
-//   kClassName                its qualified name, for error contexts;
 //   kAdoptsReplacedTables     whether replaceUseTables makes the new
 //                             tables a child of the node.
 //
@@ -26,51 +24,71 @@ namespace kaz::kazparser {
 // tables then are the input, and the collector, still owned, is neither a
 // child position nor written.
 template <class Interface, class Derived>
-class ChainInputNode : public NodeImpl<Interface> {
+class ChainInputNode
+    : public FixedChildren<NodeImpl<Interface>,
+                           Slot<IUseDataCollectorCfg, INodeCfg::UseDataCollector>,
+                           Slot<IUseDataCfg, INodeCfg::UseData>,
+                           Slot<IUseDataModifiersCfg, INodeCfg::UseDataModifiers>> {
+    using Children =
+        FixedChildren<NodeImpl<Interface>, Slot<IUseDataCollectorCfg, INodeCfg::UseDataCollector>,
+                      Slot<IUseDataCfg, INodeCfg::UseData>,
+                      Slot<IUseDataModifiersCfg, INodeCfg::UseDataModifiers>>;
+    static constexpr auto kCollector = INodeCfg::UseDataCollector;
+    static constexpr auto kTables = INodeCfg::UseData;
+    static constexpr auto kModifiers = INodeCfg::UseDataModifiers;
+
 public:
-    IUseDataCfg* getUseTables() const override { return tables_.get(); }
-    IUseDataCollectorCfg* getUseDataCollector() const override { return collector_.get(); }
-    IUseDataModifiersCfg* getUseDataModifiers() const override { return modifiers_.get(); }
+    IUseDataCfg* getUseTables() const override { return this->template child<kTables>(); }
+    IUseDataCollectorCfg* getUseDataCollector() const override {
+        return this->template child<kCollector>();
+    }
+    IUseDataModifiersCfg* getUseDataModifiers() const override {
+        return this->template child<kModifiers>();
+    }
 
     void setUseTables(IUseDataCfg* tables) override {
-        required(tables, L"setUseTables");
-        collector_.reset();
-        tables_.set(tables, this);
+        this->required(tables, L"setUseTables");
+        this->template slot<kCollector>().reset();
+        this->template slot<kTables>().set(tables, this);
     }
     void setUseDataCollector(IUseDataCollectorCfg* collector) override {
-        required(collector, L"setUseDataCollector");
-        tables_.reset();
-        collector_.set(collector, this);
+        this->required(collector, L"setUseDataCollector");
+        this->template slot<kTables>().reset();
+        this->template slot<kCollector>().set(collector, this);
     }
     void setUseDataModifiers(IUseDataModifiersCfg* modifiers) override {
-        modifiers_.set(required(modifiers, L"setUseDataModifiers"), this);
+        this->template setSlot<kModifiers>(modifiers, L"setUseDataModifiers");
     }
 
     IUseDataCfg* replaceUseTables(IUseDataCfg* tables) override {
-        return tables_.replace(required(tables, L"replaceUseTables"),
-                               Derived::kAdoptsReplacedTables ? this : nullptr);
+        return this->template replaceSlot<kTables>(tables, L"replaceUseTables",
+                                                   Derived::kAdoptsReplacedTables);
     }
     IUseDataCollectorCfg* replaceUseDataCollector(IUseDataCollectorCfg* collector) override {
-        return collector_.replace(required(collector, L"replaceUseDataCollector"), this);
+        return this->template replaceSlot<kCollector>(collector, L"replaceUseDataCollector");
     }
     IUseDataModifiersCfg* replaceUseDataModifiers(IUseDataModifiersCfg* modifiers) override {
-        return modifiers_.replace(required(modifiers, L"replaceUseDataModifiers"), this);
+        return this->template replaceSlot<kModifiers>(modifiers, L"replaceUseDataModifiers");
     }
 
-    IUseDataCfg* releaseUseTables() override { return tables_.release(); }
-    IUseDataCollectorCfg* releaseUseDataCollector() override { return collector_.release(); }
-    IUseDataModifiersCfg* releaseUseDataModifiers() override { return modifiers_.release(); }
+    IUseDataCfg* releaseUseTables() override { return this->template releaseSlot<kTables>(); }
+    IUseDataCollectorCfg* releaseUseDataCollector() override {
+        return this->template releaseSlot<kCollector>();
+    }
+    IUseDataModifiersCfg* releaseUseDataModifiers() override {
+        return this->template releaseSlot<kModifiers>();
+    }
 
     unsigned int getChildCount() const override { return fixedchildren::presentCount(visible()); }
     INodeCfg* getChild(unsigned int index) const override {
-        return fixedchildren::presentChild(visible(), index, Derived::kClassName);
+        return fixedchildren::presentChild(visible(), index, this->className());
     }
 
     // Collector references, modifier lists and data values named
     // "UseTables" are taken; null raises "Invalid argument", any other node
     // is refused.
     bool setChild(INodeCfg* child) override {
-        switch (required(child, L"setChild")->getNodeType()) {
+        switch (this->required(child, L"setChild")->getNodeType()) {
             case INodeCfg::UseDataCollector:
                 setUseDataCollector(dynamic_cast<IUseDataCollectorCfg*>(child));
                 return true;
@@ -87,40 +105,21 @@ public:
         }
     }
 
-    void deleteChildren() override {
-        collector_.reset();
-        tables_.reset();
-        modifiers_.reset();
-    }
-
     bool writeXml(IXmlWriter& out) const override {
         const std::wstring& name = this->getName();
         return this->writeElement(out, StartTag(name).str(), name);
     }
 
 protected:
-    explicit ChainInputNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
+    explicit ChainInputNode(INodeCfg* parent) : Children(parent) {}
     // Copies every child, the hidden collector too.
-    ChainInputNode(const ChainInputNode& other) : NodeImpl<Interface>(other) {
-        collector_.cloneFrom(other.collector_, this);
-        tables_.cloneFrom(other.tables_, this);
-        modifiers_.cloneFrom(other.modifiers_, this);
-    }
+    ChainInputNode(const ChainInputNode& other) = default;
 
 private:
-    template <class T>
-    static T* required(T* child, const wchar_t* method) {
-        return fixedchildren::required(child, Derived::kClassName, method);
-    }
-
     std::array<INodeCfg*, 2> visible() const {
-        INodeCfg* input = tables_ ? static_cast<INodeCfg*>(tables_.get()) : collector_.get();
-        return {input, modifiers_.get()};
+        INodeCfg* tables = getUseTables();
+        return {tables != nullptr ? tables : getUseDataCollector(), getUseDataModifiers()};
     }
-
-    ChildSlot<IUseDataCollectorCfg> collector_;
-    ChildSlot<IUseDataCfg> tables_;
-    ChildSlot<IUseDataModifiersCfg> modifiers_;
 };
 
 }  // namespace kaz::kazparser

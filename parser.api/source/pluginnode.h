@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "childslot.h"
+#include "fixedchildren.h"
 #include "kazparser/IParamSetsCfg.h"
 #include "kazxml/SAX.h"
 #include "nodeerrors.h"
@@ -17,12 +17,12 @@ namespace kaz::kazparser {
 // The state and behaviour shared by the plug-in kinds: engine file and ID,
 // a free element name, a note kept in memory only, and the one
 // parameter-set child. `Interface` is the kind's interface (an IPlugInCfg),
-// `Derived` the implementation class, which supplies
-//   kClassName    its qualified name, for error contexts;
-//   kNodeType     its node type;
-// and clone(), through the copy constructor below.
+// `Derived` the implementation class, which supplies kNodeType.
 template <class Interface, class Derived>
-class PlugInNode : public NodeImpl<Interface> {
+class PlugInNode
+    : public FixedChildren<NodeImpl<Interface>, Slot<IParamSetsCfg, INodeCfg::ParamSets>> {
+    using Children = FixedChildren<NodeImpl<Interface>, Slot<IParamSetsCfg, INodeCfg::ParamSets>>;
+
 public:
     const std::wstring& getName() const override { return name_; }
     INodeCfg::NodeType getNodeType() const override { return Derived::kNodeType; }
@@ -40,26 +40,18 @@ public:
     void setEngineID(const std::wstring& engineID) override { engineID_ = engineID; }
     void setNodeName(const std::wstring& name) override { name_ = name; }
 
+    IParamSetsCfg* getParamSets() const override {
+        return this->template child<INodeCfg::ParamSets>();
+    }
     void setParamSets(IParamSetsCfg* paramSets) override {
-        if (paramSets == nullptr)
-            errors::invalidArgument(KAZ_HERE(Derived::kClassName, L"setParamSets"));
-        paramSets_.set(paramSets, this);
+        this->template setSlot<INodeCfg::ParamSets>(paramSets, L"setParamSets");
     }
-    IParamSetsCfg* getParamSets() const override { return paramSets_.get(); }
-    IParamSetsCfg* releaseParamSets() override { return paramSets_.release(); }
+    IParamSetsCfg* releaseParamSets() override {
+        return this->template releaseSlot<INodeCfg::ParamSets>();
+    }
     IParamSetsCfg* replaceParamSets(IParamSetsCfg* paramSets) override {
-        if (paramSets == nullptr)
-            errors::invalidArgument(KAZ_HERE(Derived::kClassName, L"replaceParamSets"));
-        return paramSets_.replace(paramSets, this);
+        return this->template replaceSlot<INodeCfg::ParamSets>(paramSets, L"replaceParamSets");
     }
-
-    unsigned int getChildCount() const override { return paramSets_ ? 1u : 0u; }
-    INodeCfg* getChild(unsigned int index) const override {
-        if (index >= getChildCount())
-            errors::indexOutOfRange(index, KAZ_HERE(Derived::kClassName, L"getChild"));
-        return paramSets_.get();
-    }
-    void deleteChildren() override { paramSets_.reset(); }
     // Never answers false: anything but a parameter-set list (null too)
     // reaches setParamSets as null and raises there.
     bool setChild(INodeCfg* child) override {
@@ -76,13 +68,13 @@ public:
     }
 
 protected:
-    explicit PlugInNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
+    explicit PlugInNode(INodeCfg* parent) : Children(parent) {}
 
     // Keeps only "engineFile" and "engineID" (exact names; the last of a
     // repeated one wins) and drops every other attribute.
     PlugInNode(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,
                INodeCfg* parent)
-        : NodeImpl<Interface>(parent), name_(elementName) {
+        : Children(parent), name_(elementName) {
         for (const auto& [qName, value] : readAttributes(attributes)) {
             if (qName == L"engineFile") engineFile_ = value;
             if (qName == L"engineID") engineID_ = value;
@@ -91,12 +83,10 @@ protected:
 
     // The note and the text buffer are not copied; the list is deep-copied.
     PlugInNode(const PlugInNode& other)
-        : NodeImpl<Interface>(other),
+        : Children(other),
           engineFile_(other.engineFile_),
           engineID_(other.engineID_),
-          name_(other.name_) {
-        paramSets_.cloneFrom(other.paramSets_, this);
-    }
+          name_(other.name_) {}
 
 private:
     std::wstring writtenName() const {
@@ -107,8 +97,6 @@ private:
     std::wstring engineID_;
     std::wstring name_;
     std::wstring note_;
-    // Declared last so that it is destroyed first.
-    ChildSlot<IParamSetsCfg> paramSets_;
 };
 
 }  // namespace kaz::kazparser

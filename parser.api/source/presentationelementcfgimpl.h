@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "kazparser/IPresentationElementCfg.h"
@@ -12,7 +11,9 @@ namespace kaz::kazparser {
 // "PresentationElement": one presentable item with its features, extra
 // values, input and output configuration.
 class PresentationElementCfgImpl final
-    : public PresentationNode<IPresentationElementCfg, PresentationElementCfgImpl> {
+    : public PresentationNode<IPresentationElementCfg, PresentationElementCfgImpl,
+                              Slot<IInputConfigCfg, INodeCfg::InputConfig>,
+                              Slot<IOutputConfigCfg, INodeCfg::OutputConfig>> {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::PresentationElementCfgImpl";
     static constexpr NodeType kNodeType = PresentationElement;
@@ -26,29 +27,31 @@ public:
 
     INodeCfg* clone() const override { return new PresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;
-    void deleteChildren() override;
-    bool setChild(INodeCfg* child) override;
 
-    void setInputConfig(IInputConfigCfg* input) override;
-    void setOutputConfig(IOutputConfigCfg* output) override;
-    IInputConfigCfg* replaceInputConfig(IInputConfigCfg* input) override;
-    IOutputConfigCfg* replaceOutputConfig(IOutputConfigCfg* output) override;
-    IInputConfigCfg* releaseInputConfig() override { return input_.release(); }
-    IOutputConfigCfg* releaseOutputConfig() override { return output_.release(); }
-    IInputConfigCfg* getInputConfig() const override { return input_.get(); }
-    IOutputConfigCfg* getOutputConfig() const override { return output_.get(); }
+    IInputConfigCfg* getInputConfig() const override { return child<InputConfig>(); }
+    void setInputConfig(IInputConfigCfg* input) override {
+        setSlot<InputConfig>(input, L"setInputConfig");
+    }
+    IInputConfigCfg* replaceInputConfig(IInputConfigCfg* input) override {
+        return replaceSlot<InputConfig>(input, L"replaceInputConfig");
+    }
+    IInputConfigCfg* releaseInputConfig() override { return releaseSlot<InputConfig>(); }
+
+    IOutputConfigCfg* getOutputConfig() const override { return child<OutputConfig>(); }
+    void setOutputConfig(IOutputConfigCfg* output) override {
+        setSlot<OutputConfig>(output, L"setOutputConfig");
+    }
+    IOutputConfigCfg* replaceOutputConfig(IOutputConfigCfg* output) override {
+        return replaceSlot<OutputConfig>(output, L"replaceOutputConfig");
+    }
+    IOutputConfigCfg* releaseOutputConfig() override { return releaseSlot<OutputConfig>(); }
 
     bool setSchemaVersion(const std::wstring& version) override;
     void setName(const std::wstring& name) override;
     void setDesc(const std::wstring& desc) override;
 
-    std::array<INodeCfg*, 4> childSlots() const;
-
 private:
-    PresentationElementCfgImpl(const PresentationElementCfgImpl& other);
-
-    ChildSlot<IInputConfigCfg> input_;
-    ChildSlot<IOutputConfigCfg> output_;
+    PresentationElementCfgImpl(const PresentationElementCfgImpl& other) = default;
 };
 
 }  // namespace kaz::kazparser

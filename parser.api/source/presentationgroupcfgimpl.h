@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "kazparser/IPresentationGroupCfg.h"
@@ -12,7 +11,8 @@ namespace kaz::kazparser {
 // "PresentationGroup": the top of a presentation configuration, with its
 // features, extra values, element list and a preview image.
 class PresentationGroupCfgImpl final
-    : public PresentationNode<IPresentationGroupCfg, PresentationGroupCfgImpl> {
+    : public PresentationNode<IPresentationGroupCfg, PresentationGroupCfgImpl,
+                              Slot<IPresentationElementsCfg, INodeCfg::PresentationElements>> {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::PresentationGroupCfgImpl";
     static constexpr NodeType kNodeType = PresentationGroup;
@@ -25,14 +25,20 @@ public:
 
     INodeCfg* clone() const override { return new PresentationGroupCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;
-    void deleteChildren() override;
-    bool setChild(INodeCfg* child) override;
 
-    IPresentationElementsCfg* getPresentationElements() const override { return elements_.get(); }
-    void setPresentationElements(IPresentationElementsCfg* elements) override;
-    IPresentationElementsCfg* releasePresentationElements() override { return elements_.release(); }
+    IPresentationElementsCfg* getPresentationElements() const override {
+        return child<PresentationElements>();
+    }
+    void setPresentationElements(IPresentationElementsCfg* elements) override {
+        setSlot<PresentationElements>(elements, L"setPresentationElements");
+    }
+    IPresentationElementsCfg* releasePresentationElements() override {
+        return releaseSlot<PresentationElements>();
+    }
     IPresentationElementsCfg* replacePresentationElements(
-        IPresentationElementsCfg* elements) override;
+        IPresentationElementsCfg* elements) override {
+        return replaceSlot<PresentationElements>(elements, L"replacePresentationElements");
+    }
 
     const std::wstring& getPreviewImg() const override { return previewImg_; }
     bool setPreviewImg(const std::wstring& image) override;
@@ -40,14 +46,11 @@ public:
     void setDesc(const std::wstring& desc) override { desc_ = desc; }
     void setSchemaVersion(const std::wstring& version) override { schemaVersion_ = version; }
 
-    std::array<INodeCfg*, 3> childSlots() const;
-
 private:
     PresentationGroupCfgImpl(const AttributeList& attributes, INodeCfg* parent);
-    PresentationGroupCfgImpl(const PresentationGroupCfgImpl& other);
+    PresentationGroupCfgImpl(const PresentationGroupCfgImpl& other) = default;
 
     std::wstring previewImg_;
-    ChildSlot<IPresentationElementsCfg> elements_;
 };
 
 }  // namespace kaz::kazparser

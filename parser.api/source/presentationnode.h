@@ -1,9 +1,7 @@
 #pragma once
 
-#include <array>
 #include <string>
 
-#include "childslot.h"
 #include "displaytext.h"
 #include "fixedchildren.h"
 #include "ioutils/Numbers.h"
@@ -18,24 +16,22 @@ namespace kaz::kazparser {
 // The state and behaviour shared by the presentation element and the
 // presentation group: the name and description with their string IDs and
 // display texts, the schema version, the measure scale, and the features
-// and extra-values children. `Interface` is the kind's interface, `Derived`
-// the implementation class, which supplies
-//   kClassName    its qualified name, for error contexts;
+// and extra-values children, before the kind's own `Slots`. `Interface` is
+// the kind's interface, `Derived` the implementation class, which supplies
 //   kNodeType     its node type;
-//   tag()         the fixed tag it is written under;
-//   childSlots()  its children in getChild order, absent ones null.
+//   tag()         the fixed tag it is written under.
 // getName() answers the "name" attribute, not the tag.
-template <class Interface, class Derived>
-class PresentationNode : public NodeImpl<Interface> {
+template <class Interface, class Derived, class... Slots>
+class PresentationNode
+    : public FixedChildren<NodeImpl<Interface>, Slot<IFeaturesCfg, INodeCfg::Features>,
+                           Slot<IExtraValuesConfigCfg, INodeCfg::ExtraValuesConfig>, Slots...> {
+    using Children =
+        FixedChildren<NodeImpl<Interface>, Slot<IFeaturesCfg, INodeCfg::Features>,
+                      Slot<IExtraValuesConfigCfg, INodeCfg::ExtraValuesConfig>, Slots...>;
+
 public:
     const std::wstring& getName() const override { return name_; }
     INodeCfg::NodeType getNodeType() const override { return Derived::kNodeType; }
-    unsigned int getChildCount() const override {
-        return fixedchildren::presentCount(derived().childSlots());
-    }
-    INodeCfg* getChild(unsigned int index) const override {
-        return fixedchildren::presentChild(derived().childSlots(), index, Derived::kClassName);
-    }
 
     const std::wstring& getNameStringID() const override { return nameStringID_; }
     void setNameStringID(const std::wstring& id) override { nameStringID_ = id; }
@@ -62,31 +58,39 @@ public:
         return true;
     }
 
-    IFeaturesCfg* getFeatures() const override { return features_.get(); }
+    IFeaturesCfg* getFeatures() const override {
+        return this->template child<INodeCfg::Features>();
+    }
     void setFeatures(IFeaturesCfg* features) override {
-        features_.set(required(features, L"setFeatures"), this);
+        this->template setSlot<INodeCfg::Features>(features, L"setFeatures");
     }
     IFeaturesCfg* replaceFeatures(IFeaturesCfg* features) override {
-        return features_.replace(required(features, L"replaceFeatures"), this);
+        return this->template replaceSlot<INodeCfg::Features>(features, L"replaceFeatures");
     }
-    IFeaturesCfg* releaseFeatures() override { return features_.release(); }
+    IFeaturesCfg* releaseFeatures() override {
+        return this->template releaseSlot<INodeCfg::Features>();
+    }
 
-    IExtraValuesConfigCfg* getExtraValuesConfig() const override { return extraValues_.get(); }
+    IExtraValuesConfigCfg* getExtraValuesConfig() const override {
+        return this->template child<INodeCfg::ExtraValuesConfig>();
+    }
     void setExtraValuesConfig(IExtraValuesConfigCfg* extraValues) override {
-        extraValues_.set(required(extraValues, L"setExtraValuesConfig"), this);
+        this->template setSlot<INodeCfg::ExtraValuesConfig>(extraValues, L"setExtraValuesConfig");
     }
     IExtraValuesConfigCfg* replaceExtraValuesConfig(IExtraValuesConfigCfg* extraValues) override {
-        return extraValues_.replace(required(extraValues, L"replaceExtraValuesConfig"), this);
+        return this->template replaceSlot<INodeCfg::ExtraValuesConfig>(extraValues,
+                                                                       L"replaceExtraValuesConfig");
     }
-    IExtraValuesConfigCfg* releaseExtraValuesConfig() override { return extraValues_.release(); }
+    IExtraValuesConfigCfg* releaseExtraValuesConfig() override {
+        return this->template releaseSlot<INodeCfg::ExtraValuesConfig>();
+    }
 
 protected:
-    explicit PresentationNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
+    explicit PresentationNode(INodeCfg* parent) : Children(parent) {}
 
     // Reads the shared attributes by exact name (the last of a repeated one
     // wins; others are left to the kind), then resolves the display texts.
-    PresentationNode(const AttributeList& attributes, INodeCfg* parent)
-        : NodeImpl<Interface>(parent) {
+    PresentationNode(const AttributeList& attributes, INodeCfg* parent) : Children(parent) {
         for (const auto& [name, value] : attributes) {
             if (name == L"name") {
                 name_ = displayName_ = value;
@@ -108,21 +112,7 @@ protected:
         resolveDisplayText(descStringID_, displayDesc_);
     }
 
-    // Copies every text but the XML buffer; the children are deep-copied.
-    PresentationNode(const PresentationNode& other)
-        : NodeImpl<Interface>(other),
-          nameStringID_(other.nameStringID_),
-          descStringID_(other.descStringID_),
-          name_(other.name_),
-          desc_(other.desc_),
-          displayName_(other.displayName_),
-          displayDesc_(other.displayDesc_),
-          schemaVersion_(other.schemaVersion_),
-          measureScale_(other.measureScale_),
-          hasMeasureScale_(other.hasMeasureScale_) {
-        features_.cloneFrom(other.features_, this);
-        extraValues_.cloneFrom(other.extraValues_, this);
-    }
+    PresentationNode(const PresentationNode& other) = default;
 
     // The start tag with the shared attributes in their written order;
     // the kind may add its own after them.
@@ -135,32 +125,6 @@ protected:
         return tag;
     }
 
-    // Null raises "Invalid argument" naming `method`.
-    template <class T>
-    static T* required(T* child, const wchar_t* method) {
-        return fixedchildren::required(child, Derived::kClassName, method);
-    }
-
-    // Hands a child to setFeatures or setExtraValuesConfig by its kind;
-    // answers whether it was one of those.
-    bool setSharedChild(INodeCfg* child) {
-        switch (child->getNodeType()) {
-            case INodeCfg::Features:
-                setFeatures(dynamic_cast<IFeaturesCfg*>(child));
-                return true;
-            case INodeCfg::ExtraValuesConfig:
-                setExtraValuesConfig(dynamic_cast<IExtraValuesConfigCfg*>(child));
-                return true;
-            default:
-                return false;
-        }
-    }
-
-    void deleteSharedChildren() {
-        features_.reset();
-        extraValues_.reset();
-    }
-
     std::wstring nameStringID_;
     std::wstring descStringID_;
     std::wstring name_;
@@ -170,11 +134,6 @@ protected:
     std::wstring schemaVersion_;
     double measureScale_ = 0.0;
     bool hasMeasureScale_ = false;
-    ChildSlot<IFeaturesCfg> features_;
-    ChildSlot<IExtraValuesConfigCfg> extraValues_;
-
-private:
-    const Derived& derived() const { return static_cast<const Derived&>(*this); }
 };
 
 }  // namespace kaz::kazparser

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "childslot.h"
+#include "fixedchildren.h"
 #include "kazparser/IUseDataCollectorCfg.h"
 #include "nodeimpl.h"
 
@@ -11,39 +11,40 @@ namespace kaz::kazparser {
 // "UseDataCollector": the data collector of a chain and its sample results,
 // children told apart by node type. The replace operations do not set the
 // new child's parent.
-class UseDataCollectorCfgImpl final : public NodeImpl<IUseDataCollectorCfg> {
+class UseDataCollectorCfgImpl final
+    : public FixedChildren<NodeImpl<IUseDataCollectorCfg>,
+                           Slot<IDataCollectorCfg, INodeCfg::DataCollector>,
+                           Slot<ISampleResultsCfg, INodeCfg::SampleResults>> {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseDataCollectorCfgImpl";
 
-    explicit UseDataCollectorCfgImpl(INodeCfg* parent) : NodeImpl(parent) {}
-    ~UseDataCollectorCfgImpl() override { deleteChildren(); }
+    explicit UseDataCollectorCfgImpl(INodeCfg* parent) : FixedChildren(parent) {}
 
-    // A string shared by every node of the class, refilled on each call.
     const std::wstring& getName() const override;
-    INodeCfg* getChild(unsigned int index) const override;
-    unsigned int getChildCount() const override;
-    void deleteChildren() override;
     INodeCfg* clone() const override { return new UseDataCollectorCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;
-    // A data collector or sample results; any other kind answers false.
-    bool setChild(INodeCfg* child) override;
     NodeType getNodeType() const override { return UseDataCollector; }
-    bool isValid() const override { return static_cast<bool>(collector_); }
+    bool isValid() const override { return child<DataCollector>() != nullptr; }
 
-    IDataCollectorCfg* getDataCollector() const override { return collector_.get(); }
-    void setDataCollector(IDataCollectorCfg* collector) override;
-    IDataCollectorCfg* releaseDataCollector() override { return collector_.release(); }
-    IDataCollectorCfg* replaceDataCollector(IDataCollectorCfg* collector) override;
-    ISampleResultsCfg* getSampleResults() const override { return results_.get(); }
-    void setSampleResults(ISampleResultsCfg* results) override;
-    ISampleResultsCfg* releaseSampleResults() override { return results_.release(); }
-    ISampleResultsCfg* replaceSampleResults(ISampleResultsCfg* results) override;
+    IDataCollectorCfg* getDataCollector() const override { return child<DataCollector>(); }
+    void setDataCollector(IDataCollectorCfg* collector) override {
+        setSlot<DataCollector>(collector, L"setDataCollector");
+    }
+    IDataCollectorCfg* releaseDataCollector() override { return releaseSlot<DataCollector>(); }
+    IDataCollectorCfg* replaceDataCollector(IDataCollectorCfg* collector) override {
+        return replaceSlot<DataCollector>(collector, L"replaceDataCollector", false);
+    }
+    ISampleResultsCfg* getSampleResults() const override { return child<SampleResults>(); }
+    void setSampleResults(ISampleResultsCfg* results) override {
+        setSlot<SampleResults>(results, L"setSampleResults");
+    }
+    ISampleResultsCfg* releaseSampleResults() override { return releaseSlot<SampleResults>(); }
+    ISampleResultsCfg* replaceSampleResults(ISampleResultsCfg* results) override {
+        return replaceSlot<SampleResults>(results, L"replaceSampleResults", false);
+    }
 
 private:
-    UseDataCollectorCfgImpl(const UseDataCollectorCfgImpl& other);
-
-    ChildSlot<IDataCollectorCfg> collector_;
-    ChildSlot<ISampleResultsCfg> results_;
+    UseDataCollectorCfgImpl(const UseDataCollectorCfgImpl& other) = default;
 };
 
 }  // namespace kaz::kazparser

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "kazparser/IUseFixedPresentationElementCfg.h"
@@ -11,8 +10,9 @@ namespace kaz::kazparser {
 
 // "UseFixedPresentationElement": a list entry holding its element inline.
 class UseFixedPresentationElementCfgImpl final
-    : public UsePresentationElementNode<IUseFixedPresentationElementCfg,
-                                        UseFixedPresentationElementCfgImpl> {
+    : public UsePresentationElementNode<
+          IUseFixedPresentationElementCfg, UseFixedPresentationElementCfgImpl,
+          Slot<IPresentationElementCfg, INodeCfg::PresentationElement>> {
 public:
     static constexpr const wchar_t* kClassName =
         L"kaz::kazparser::UseFixedPresentationElementCfgImpl";
@@ -28,20 +28,19 @@ public:
 
     INodeCfg* clone() const override { return new UseFixedPresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override { return writeReference(out, {}); }
-    void deleteChildren() override;
-    // Takes extension parameters and an element; false for other kinds.
-    bool setChild(INodeCfg* child) override;
 
-    IPresentationElementCfg* getPresentationElement() const override { return element_.get(); }
-    void setPresentationElement(IPresentationElementCfg* element) override;
-    IPresentationElementCfg* releasePresentationElement() override { return element_.release(); }
-
-    std::array<INodeCfg*, 2> childSlots() const { return {extParams_.get(), element_.get()}; }
+    IPresentationElementCfg* getPresentationElement() const override {
+        return child<PresentationElement>();
+    }
+    void setPresentationElement(IPresentationElementCfg* element) override {
+        setSlot<PresentationElement>(element, L"setPresentationElement");
+    }
+    IPresentationElementCfg* releasePresentationElement() override {
+        return releaseSlot<PresentationElement>();
+    }
 
 private:
-    UseFixedPresentationElementCfgImpl(const UseFixedPresentationElementCfgImpl& other);
-
-    ChildSlot<IPresentationElementCfg> element_;
+    UseFixedPresentationElementCfgImpl(const UseFixedPresentationElementCfgImpl& other) = default;
 };
 
 }  // namespace kaz::kazparser

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "childslot.h"
 #include "displaytext.h"
 #include "fixedchildren.h"
 #include "kazparser/IExtParamsCfg.h"
@@ -15,24 +14,20 @@ namespace kaz::kazparser {
 // The state and behaviour shared by the fixed and the file reference to a
 // presentation element: the active flag, label and description with their
 // string IDs and display texts, element ID, main-data reference, and the
-// extension-parameter child. `Interface` is the kind's interface, `Derived`
-// the implementation class, which supplies
-//   kClassName    its qualified name, for error contexts;
+// extension-parameter child, before the kind's own `Slots`. `Interface` is
+// the kind's interface, `Derived` the implementation class, which supplies
 //   kNodeType     its node type;
-//   tag()         the tag it is written under (also its getName());
-//   childSlots()  its children in getChild order, absent ones null.
-template <class Interface, class Derived>
-class UsePresentationElementNode : public NodeImpl<Interface> {
+//   tag()         the tag it is written under (also its getName()).
+template <class Interface, class Derived, class... Slots>
+class UsePresentationElementNode
+    : public FixedChildren<NodeImpl<Interface>, Slot<IExtParamsCfg, INodeCfg::ExtParams>,
+                           Slots...> {
+    using Children =
+        FixedChildren<NodeImpl<Interface>, Slot<IExtParamsCfg, INodeCfg::ExtParams>, Slots...>;
+
 public:
     const std::wstring& getName() const override { return Derived::tag(); }
     INodeCfg::NodeType getNodeType() const override { return Derived::kNodeType; }
-    unsigned int getChildCount() const override {
-        return fixedchildren::presentCount(derived().childSlots());
-    }
-    INodeCfg* getChild(unsigned int index) const override {
-        return fixedchildren::presentChild(derived().childSlots(), index, Derived::kClassName);
-    }
-    void deleteChildren() override { extParams_.reset(); }
 
     bool setActive(bool active) override {
         active_ = active;
@@ -56,20 +51,23 @@ public:
     void setLabelStringID(const std::wstring& id) override { labelStringID_ = id; }
     void setDescStringID(const std::wstring& id) override { descStringID_ = id; }
 
-    IExtParamsCfg* getExtParams() const override { return extParams_.get(); }
-    void setExtParams(IExtParamsCfg* extParams) override {
-        extParams_.set(fixedchildren::required(extParams, Derived::kClassName, L"setExtParams"),
-                       this);
+    IExtParamsCfg* getExtParams() const override {
+        return this->template child<INodeCfg::ExtParams>();
     }
-    IExtParamsCfg* releaseExtParams() override { return extParams_.release(); }
+    void setExtParams(IExtParamsCfg* extParams) override {
+        this->template setSlot<INodeCfg::ExtParams>(extParams, L"setExtParams");
+    }
+    IExtParamsCfg* releaseExtParams() override {
+        return this->template releaseSlot<INodeCfg::ExtParams>();
+    }
 
 protected:
-    explicit UsePresentationElementNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
+    explicit UsePresentationElementNode(INodeCfg* parent) : Children(parent) {}
 
     // Reads the shared attributes by exact name (the last of a repeated one
     // wins; others are left to the kind), then resolves the display texts.
     UsePresentationElementNode(const AttributeList& attributes, INodeCfg* parent)
-        : NodeImpl<Interface>(parent) {
+        : Children(parent) {
         for (const auto& [name, value] : attributes) {
             if (name == L"active") {
                 active_ = flagValue(value);
@@ -91,20 +89,7 @@ protected:
         resolveDisplayText(descStringID_, displayDesc_);
     }
 
-    // Copies every text but the XML buffer; the child is deep-copied.
-    UsePresentationElementNode(const UsePresentationElementNode& other)
-        : NodeImpl<Interface>(other),
-          labelStringID_(other.labelStringID_),
-          descStringID_(other.descStringID_),
-          elemID_(other.elemID_),
-          label_(other.label_),
-          desc_(other.desc_),
-          displayLabel_(other.displayLabel_),
-          displayDesc_(other.displayDesc_),
-          refMainData_(other.refMainData_),
-          active_(other.active_) {
-        extParams_.cloneFrom(other.extParams_, this);
-    }
+    UsePresentationElementNode(const UsePresentationElementNode& other) = default;
 
     // Writes the element; `refFileName` is written after "elemID" when not
     // empty (the fixed reference has none).
@@ -117,11 +102,7 @@ protected:
         return this->writeElement(out, tag.str(), Derived::tag());
     }
 
-    ChildSlot<IExtParamsCfg> extParams_;
-
 private:
-    const Derived& derived() const { return static_cast<const Derived&>(*this); }
-
     std::wstring labelStringID_;
     std::wstring descStringID_;
     std::wstring elemID_;

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
 #include <string>
 
-#include "childslot.h"
+#include "fixedchildren.h"
 #include "kazparser/IUsePresenterCfg.h"
 #include "nodeimpl.h"
 
@@ -11,46 +10,52 @@ namespace kaz::kazparser {
 
 // "UsePresenter": a presenter stage with its table selection, modifier list
 // and presenter, each optional, written in that order without attributes.
-class UsePresenterCfgImpl final : public NodeImpl<IUsePresenterCfg> {
+class UsePresenterCfgImpl final
+    : public FixedChildren<NodeImpl<IUsePresenterCfg>,
+                           Slot<ISelectTablesCfg, INodeCfg::SelectTables>,
+                           Slot<IUseDataModifiersCfg, INodeCfg::UseDataModifiers>,
+                           Slot<IPresenterCfg, INodeCfg::Presenter>> {
 public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UsePresenterCfgImpl";
 
-    explicit UsePresenterCfgImpl(INodeCfg* parent) : NodeImpl(parent) {}
+    explicit UsePresenterCfgImpl(INodeCfg* parent) : FixedChildren(parent) {}
 
     const std::wstring& getName() const override;
-    INodeCfg* getChild(unsigned int index) const override;
-    unsigned int getChildCount() const override;
-    void deleteChildren() override;
     INodeCfg* clone() const override { return new UsePresenterCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;
-    // Takes a table selection, a modifier list or a presenter; null raises
-    // "Invalid argument", any other node is refused.
-    bool setChild(INodeCfg* child) override;
     NodeType getNodeType() const override { return UsePresenter; }
 
-    ISelectTablesCfg* getSelectTables() const override { return selection_.get(); }
-    void setSelectTables(ISelectTablesCfg* selection) override;
-    ISelectTablesCfg* releaseSelectTables() override { return selection_.release(); }
-    ISelectTablesCfg* replaceSelectTables(ISelectTablesCfg* selection) override;
+    ISelectTablesCfg* getSelectTables() const override { return child<SelectTables>(); }
+    void setSelectTables(ISelectTablesCfg* selection) override {
+        setSlot<SelectTables>(selection, L"setSelectTables");
+    }
+    ISelectTablesCfg* releaseSelectTables() override { return releaseSlot<SelectTables>(); }
+    ISelectTablesCfg* replaceSelectTables(ISelectTablesCfg* selection) override {
+        return replaceSlot<SelectTables>(selection, L"replaceSelectTables");
+    }
 
-    IUseDataModifiersCfg* getUseDataModifiers() const override { return modifiers_.get(); }
-    void setUseDataModifiers(IUseDataModifiersCfg* modifiers) override;
-    IUseDataModifiersCfg* releaseUseDataModifiers() override { return modifiers_.release(); }
-    IUseDataModifiersCfg* replaceUseDataModifiers(IUseDataModifiersCfg* modifiers) override;
+    IUseDataModifiersCfg* getUseDataModifiers() const override { return child<UseDataModifiers>(); }
+    void setUseDataModifiers(IUseDataModifiersCfg* modifiers) override {
+        setSlot<UseDataModifiers>(modifiers, L"setUseDataModifiers");
+    }
+    IUseDataModifiersCfg* releaseUseDataModifiers() override {
+        return releaseSlot<UseDataModifiers>();
+    }
+    IUseDataModifiersCfg* replaceUseDataModifiers(IUseDataModifiersCfg* modifiers) override {
+        return replaceSlot<UseDataModifiers>(modifiers, L"replaceUseDataModifiers");
+    }
 
-    IPresenterCfg* getPresenter() const override { return presenter_.get(); }
-    void setPresenter(IPresenterCfg* presenter) override;
-    IPresenterCfg* releasePresenter() override { return presenter_.release(); }
-    IPresenterCfg* replacePresenter(IPresenterCfg* presenter) override;
+    IPresenterCfg* getPresenter() const override { return child<Presenter>(); }
+    void setPresenter(IPresenterCfg* presenter) override {
+        setSlot<Presenter>(presenter, L"setPresenter");
+    }
+    IPresenterCfg* releasePresenter() override { return releaseSlot<Presenter>(); }
+    IPresenterCfg* replacePresenter(IPresenterCfg* presenter) override {
+        return replaceSlot<Presenter>(presenter, L"replacePresenter");
+    }
 
 private:
-    UsePresenterCfgImpl(const UsePresenterCfgImpl& other);
-
-    std::array<INodeCfg*, 3> slots() const;
-
-    ChildSlot<ISelectTablesCfg> selection_;
-    ChildSlot<IUseDataModifiersCfg> modifiers_;
-    ChildSlot<IPresenterCfg> presenter_;
+    UsePresenterCfgImpl(const UsePresenterCfgImpl& other) = default;
 };
 
 }  // namespace kaz::kazparser

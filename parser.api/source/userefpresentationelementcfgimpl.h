@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "kazparser/IUseRefPresentationElementCfg.h"
@@ -38,8 +37,6 @@ public:
 
     bool setRefFileName(const std::wstring& fileName) override;
     const std::wstring& getRefFileName() const override { return refFileName_; }
-
-    std::array<INodeCfg*, 1> childSlots() const { return {extParams_.get()}; }
 
 private:
     UseRefPresentationElementCfgImpl(const AttributeList& attributes, INodeCfg* parent);
