@@ -48,6 +48,7 @@ INodeCfg* ExtParamsCfgImpl::replace(INodeCfg* item, unsigned int index) {
     IExtParamCfg* typed = castItem(item, L"replace");
     checkIndex(index, L"replace");
     IExtParamCfg* previous = replaceItem(typed, index);
+    if (previous == nullptr) return nullptr;  // put in its own place
     // Every key of the previous item, its name included, now finds the new one.
     for (auto& entry : index_)
         if (entry.second == previous) entry.second = typed;

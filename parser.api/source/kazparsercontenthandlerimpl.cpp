@@ -21,18 +21,11 @@ const std::wstring kRootDirectoryMacro = L"[Kestrelon.RootDirectory]";
 KAZParserContentHandlerImpl::KAZParserContentHandlerImpl(INodeCfg* parent)
     : NodeStackHandler(parent) {}
 
-KAZParserContentHandlerImpl::~KAZParserContentHandlerImpl() {
-    freeRefused();
-}
+KAZParserContentHandlerImpl::~KAZParserContentHandlerImpl() = default;
 
 long KAZParserContentHandlerImpl::endDocument() {
-    freeRefused();
-    return kaz::xml::S_OK;
-}
-
-void KAZParserContentHandlerImpl::freeRefused() {
-    for (INodeCfg* node : refused_) delete node;
     refused_.clear();
+    return kaz::xml::S_OK;
 }
 
 void KAZParserContentHandlerImpl::addError(const std::wstring& text) {
@@ -161,20 +154,23 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
 void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wstring& name) {
     INodeCfg* parent = top();
     try {
-        // A fixed sample entry's setChild lets go of its data node unfreed.
-        auto* entry = parent->getNodeType() == INodeCfg::SampleFixedResult
-                          ? dynamic_cast<ISampleFixedResultCfg*>(parent)
-                          : nullptr;
-        IUseDataCfg* held = entry != nullptr ? entry->getData() : nullptr;
-        if (parent->setChild(child)) {
-            if (held != nullptr && held != entry->getData()) delete held;
-            return;
-        }
+        if (takeSampleData(parent, child) || parent->setChild(child)) return;
         child->setParent(parent);
     } catch (kazexception::IKAZException* e) {
         addException(name, e);
     }
-    refused_.push_back(child);
+    refused_.append(child, nullptr);
+}
+
+// A fixed sample entry's setChild lets go of the data node it held, unfreed;
+// its setData frees it.
+bool KAZParserContentHandlerImpl::takeSampleData(INodeCfg* parent, INodeCfg* child) {
+    if (parent->getNodeType() != INodeCfg::SampleFixedResult) return false;
+    auto* entry = dynamic_cast<ISampleFixedResultCfg*>(parent);
+    auto* data = dynamic_cast<IUseDataCfg*>(child);
+    if (entry == nullptr || data == nullptr) return false;
+    entry->setData(data);
+    return true;
 }
 
 // The reader may cut one run of text anywhere (a macro included): the run

@@ -10,6 +10,7 @@
 #include "markupcapture.h"
 #include "nodekinds.h"
 #include "nodestackhandler.h"
+#include "ownedlist.h"
 #include "tableobj/IElement.h"
 
 namespace kaz::kazparser {
@@ -55,12 +56,12 @@ private:
     void captureStart(const std::wstring& name, KAZSAXAttributesImpl& attributes);
     void captureEnd(const std::wstring& name);
     void attachToParent(INodeCfg* child, const std::wstring& name);
+    static bool takeSampleData(INodeCfg* parent, INodeCfg* child);
     void addError(const std::wstring& text);
     void addException(const std::wstring& name, kazexception::IKAZException* e);
     // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
     void replaceRootDirectory(std::wstring& text);
     void replaceRootDirectory(KAZSAXAttributesImpl& attributes);
-    void freeRefused();
     // Hands the text collected since the last element event to where the
     // open element keeps it.
     void flushText();
@@ -74,7 +75,7 @@ private:
     std::wstring errorText_;
     std::optional<INodeCfg::NodeType> expectedKind_;
     // Children their parent did not take; freed at the end of the document.
-    std::vector<INodeCfg*> refused_;
+    OwnedList<INodeCfg> refused_;
     std::optional<std::wstring> rootDirectory_;
     // Elements open inside the capturing node's element.
     int nested_ = 0;

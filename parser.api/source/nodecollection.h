@@ -7,6 +7,7 @@
 #include "kazparser/INodeCfgCollection.h"
 #include "nodeerrors.h"
 #include "nodeimpl.h"
+#include "ownedlist.h"
 
 namespace kaz::kazparser {
 
@@ -59,10 +60,7 @@ public:
 
     bool setChild(INodeCfg* child) override { return this->append(child) != kNoPosition; }
 
-    void deleteChildren() override {
-        for (Item* item : items_) delete item;
-        items_.clear();
-    }
+    void deleteChildren() override { items_.clear(); }
 
     // Collections without attributes: "<name>", the items, "</name>".
     bool writeXml(IXmlWriter& out) const override {
@@ -75,23 +73,8 @@ protected:
 
     // Copies every item in order, each made a child of the copy.
     NodeCollection(const NodeCollection& other) : NodeImpl<Interface>(other) {
-        items_.reserve(other.items_.size());
-        try {
-            for (const Item* item : other.items_) {
-                INodeCfg* copy = item->clone();
-                if (Item* typed = dynamic_cast<Item*>(copy)) {
-                    appendItem(typed);
-                } else {
-                    delete copy;
-                }
-            }
-        } catch (...) {  // the destructor does not run for a copy that fails
-            deleteChildren();
-            throw;
-        }
+        items_.copyFrom(other.items_, this);
     }
-
-    ~NodeCollection() override { deleteChildren(); }
 
     // The item as the accepted interface, or "Invalid argument" naming `method`.
     Item* castItem(INodeCfg* item, const wchar_t* method) const {
@@ -106,30 +89,15 @@ protected:
     }
 
     unsigned int appendItem(Item* item) {
-        items_.push_back(item);
-        item->setParent(this);
+        items_.append(item, this);
         return getCount();
     }
-
-    void insertItem(Item* item, unsigned int index) {
-        items_.insert(items_.begin() + index, item);
-        item->setParent(this);
-    }
-
-    Item* replaceItem(Item* item, unsigned int index) {
-        Item* previous = items_[index];
-        items_[index] = item;
-        item->setParent(this);
-        previous->setParent(nullptr);
-        return previous;
-    }
-
-    Item* removeItem(unsigned int index) {
-        Item* item = items_[index];
-        items_.erase(items_.begin() + index);
-        item->setParent(nullptr);
-        return item;
-    }
+    void insertItem(Item* item, unsigned int index) { items_.insert(index, item, this); }
+    // Null when `item` is already at `index`.
+    Item* replaceItem(Item* item, unsigned int index) { return items_.replace(index, item, this); }
+    Item* removeItem(unsigned int index) { return items_.remove(index); }
+    // As replaceItem, deleting the item that was there.
+    void setItem(Item* item, unsigned int index) { items_.set(index, item, this); }
 
     // Typed companions of the list operations: a null item is refused with
     // kNoPosition instead of an error; the erasing forms delete the item
@@ -158,10 +126,10 @@ protected:
         return found;
     }
 
-    const std::vector<Item*>& items() const { return items_; }
+    const std::vector<Item*>& items() const { return items_.items(); }
 
 private:
-    std::vector<Item*> items_;
+    OwnedList<Item> items_;
 };
 
 }  // namespace kaz::kazparser

@@ -8,22 +8,8 @@
 namespace kaz::kazparser {
 
 OutputConfigCfgImpl::OutputConfigCfgImpl(const OutputConfigCfgImpl& other) : NodeImpl(other) {
-    try {
-        modifiers_.cloneFrom(other.modifiers_, this);
-        presenters_.reserve(other.presenters_.size());
-        for (const IUsePresenterCfg* presenter : other.presenters_) {
-            INodeCfg* copy = presenter != nullptr ? presenter->clone() : nullptr;
-            auto* typed = dynamic_cast<IUsePresenterCfg*>(copy);
-            if (copy != nullptr && typed == nullptr) {  // a clone of another kind cannot stand here
-                delete copy;
-                continue;
-            }
-            appendUsePresenter(typed);
-        }
-    } catch (...) {  // the destructor does not run for a copy that fails
-        deleteChildren();
-        throw;
-    }
+    modifiers_.cloneFrom(other.modifiers_, this);
+    presenters_.copyFrom(other.presenters_, this);
 }
 
 const std::wstring& OutputConfigCfgImpl::getName() const {
@@ -43,7 +29,6 @@ INodeCfg* OutputConfigCfgImpl::getChild(unsigned int index) const {
 
 void OutputConfigCfgImpl::deleteChildren() {
     modifiers_.reset();
-    for (IUsePresenterCfg* presenter : presenters_) delete presenter;
     presenters_.clear();
 }
 
@@ -81,7 +66,7 @@ IUsePresenterCfg* OutputConfigCfgImpl::getUsePresenter(unsigned int index) const
 }
 
 IUsePresenterCfg* OutputConfigCfgImpl::getUsePresenter(const std::wstring& name) const {
-    for (IUsePresenterCfg* presenter : presenters_)
+    for (IUsePresenterCfg* presenter : presenters_.items())
         if (presenter != nullptr && presenter->getName() == name) return presenter;
     return nullptr;
 }
@@ -96,11 +81,10 @@ IUseDataModifiersCfg* OutputConfigCfgImpl::replaceUseDataModifiers(
         fixedchildren::required(modifiers, kClassName, L"replaceUseDataModifiers"), nullptr);
 }
 
-// Setting the stage already at `index` keeps it: deleting it would leave
-// the entry dangling.
+// Setting the stage already at `index` keeps it.
 void OutputConfigCfgImpl::setUsePresenter(IUsePresenterCfg* presenter, unsigned int index) {
     checkArguments(presenter, index, L"setUsePresenter");
-    delete replaceUsePresenter(presenter, index);
+    presenters_.set(index, presenter, this);
 }
 
 // Replacing a stage by itself hands back nothing, so that no node has two
@@ -108,33 +92,23 @@ void OutputConfigCfgImpl::setUsePresenter(IUsePresenterCfg* presenter, unsigned 
 IUsePresenterCfg* OutputConfigCfgImpl::replaceUsePresenter(IUsePresenterCfg* presenter,
                                                            unsigned int index) {
     checkArguments(presenter, index, L"replaceUsePresenter");
-    IUsePresenterCfg* previous = presenters_[index];
-    presenters_[index] = presenter;
-    presenter->setParent(this);
-    if (previous == presenter) return nullptr;
-    if (previous != nullptr) previous->setParent(nullptr);
-    return previous;
+    return presenters_.replace(index, presenter, this);
 }
 
 IUsePresenterCfg* OutputConfigCfgImpl::removeUsePresenter(unsigned int index) {
     checkIndex(index, L"removeUsePresenter");
-    IUsePresenterCfg* presenter = presenters_[index];
-    presenters_.erase(presenters_.begin() + index);
-    if (presenter != nullptr) presenter->setParent(nullptr);
-    return presenter;
+    return presenters_.remove(index);
 }
 
 unsigned int OutputConfigCfgImpl::insertUsePresenter(IUsePresenterCfg* presenter,
                                                      unsigned int index) {
     checkArguments(presenter, index, L"insertUsePresenter");
-    presenters_.insert(presenters_.begin() + index, presenter);
-    presenter->setParent(this);
+    presenters_.insert(index, presenter, this);
     return index;
 }
 
 unsigned int OutputConfigCfgImpl::appendUsePresenter(IUsePresenterCfg* presenter) {
-    presenters_.push_back(presenter);
-    if (presenter != nullptr) presenter->setParent(this);
+    presenters_.append(presenter, this);
     return getUsePresenterCount();
 }
 

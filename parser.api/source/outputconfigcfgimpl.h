@@ -1,11 +1,11 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "childslot.h"
 #include "kazparser/IOutputConfigCfg.h"
 #include "nodeimpl.h"
+#include "ownedlist.h"
 
 namespace kaz::kazparser {
 
@@ -17,7 +17,6 @@ public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::OutputConfigCfgImpl";
 
     explicit OutputConfigCfgImpl(INodeCfg* parent) : NodeImpl(parent) {}
-    ~OutputConfigCfgImpl() override { deleteChildren(); }
 
     const std::wstring& getName() const override;
     INodeCfg* getChild(unsigned int index) const override;
@@ -55,7 +54,7 @@ private:
     void checkIndex(unsigned int index, const wchar_t* method) const;
 
     ChildSlot<IUseDataModifiersCfg> modifiers_;
-    std::vector<IUsePresenterCfg*> presenters_;
+    OwnedList<IUsePresenterCfg> presenters_;
 };
 
 }  // namespace kaz::kazparser

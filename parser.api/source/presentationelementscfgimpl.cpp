@@ -10,11 +10,8 @@
 namespace kaz::kazparser {
 namespace {
 
-struct NodeDeleter {
-    void operator()(INodeCfg* node) const { delete node; }
-};
 template <class T>
-using Owned = std::unique_ptr<T, NodeDeleter>;
+using Owned = std::unique_ptr<T>;
 
 // Gives `target` every attribute that the two kinds of reference share.
 void copyAttributes(const IUsePresentationElementCfg& source, IUsePresentationElementCfg& target) {
@@ -46,7 +43,7 @@ unsigned int PresentationElementsCfgImpl::resolveReferences() {
         if (IUsePresentationElementCfg* fixed = resolved(*reference)) {
             // The new entry keeps the list's parent as its own, as it was made.
             INodeCfg* parent = fixed->getParent();
-            delete replaceItem(fixed, index);
+            setItem(fixed, index);
             fixed->setParent(parent);
         }
     }

@@ -207,6 +207,26 @@ TEST_P(KindsTest, FailedAllocationsWhileReadingCloningAndWritingFreeEverything) 
     });
 }
 
+using CollectionsTest = LeakCheckedTest;
+
+TEST_F(CollectionsTest, AnItemReplacedByItselfStaysOwnedByTheCollection) {
+    int collections = 0;
+    for (const Kind& kind : kKinds) {
+        const std::wstring text = kind.full;
+        NodePtr<> node(kind.create(&text, nullptr));
+        auto* list = dynamic_cast<kaz::kazparser::INodeCfgCollection*>(node.get());
+        if (list == nullptr) continue;
+        SCOPED_TRACE(kind.name);
+        ++collections;
+        const std::wstring before = node->toXml();
+        INodeCfg* item = list->getChild(0);
+        EXPECT_EQ(list->replace(item, 0), nullptr);
+        EXPECT_EQ(item->getParent(), node.get());
+        EXPECT_EQ(node->toXml(), before);
+    }
+    EXPECT_EQ(collections, 9);
+}
+
 INSTANTIATE_TEST_SUITE_P(EveryKind, KindsTest, testing::ValuesIn(kKinds),
                          [](const testing::TestParamInfo<Kind>& info) {
                              return std::string(info.param.name) +

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "kazparser/INodeCfg.h"
+
+namespace kaz::kazparser {
+
+// An ordered list of owned child nodes of interface `Item`: each item is
+// made a child of the owner passed in, deleted with the list, and handed
+// back detached when it is taken out. Entries may be null.
+template <class Item>
+class OwnedList {
+public:
+    OwnedList() = default;
+    OwnedList(const OwnedList&) = delete;
+    OwnedList& operator=(const OwnedList&) = delete;
+    ~OwnedList() { clear(); }
+
+    std::size_t size() const { return items_.size(); }
+    Item* operator[](std::size_t index) const { return items_[index]; }
+    const std::vector<Item*>& items() const { return items_; }
+
+    void append(Item* item, INodeCfg* owner) {
+        items_.push_back(item);
+        adopt(item, owner);
+    }
+
+    void insert(std::size_t index, Item* item, INodeCfg* owner) {
+        items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index), item);
+        adopt(item, owner);
+    }
+
+    // Puts `item` at `index` and hands back the item that was there,
+    // detached. An item put in its own place stays and nothing is handed
+    // back, so that no node has two owners.
+    Item* replace(std::size_t index, Item* item, INodeCfg* owner) {
+        Item* previous = items_[index];
+        items_[index] = item;
+        adopt(item, owner);
+        return previous != item ? detach(previous) : nullptr;
+    }
+
+    // As replace, deleting the item that was there.
+    void set(std::size_t index, Item* item, INodeCfg* owner) { delete replace(index, item, owner); }
+
+    Item* remove(std::size_t index) {
+        Item* item = items_[index];
+        items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
+        return detach(item);
+    }
+
+    void clear() {
+        for (Item* item : items_) delete item;
+        items_.clear();
+    }
+
+    // Appends a deep copy of each of `other`'s items, made a child of
+    // `owner`; a null entry stays null, a copy of another kind is dropped.
+    // Should a copy fail, what was appended is the list's, freed with it.
+    void copyFrom(const OwnedList& other, INodeCfg* owner) {
+        items_.reserve(items_.size() + other.size());  // no append below can throw
+        for (const Item* item : other.items_) {
+            INodeCfg* copy = item != nullptr ? item->clone() : nullptr;
+            auto* typed = dynamic_cast<Item*>(copy);
+            if (copy != nullptr && typed == nullptr) {
+                delete copy;
+                continue;
+            }
+            append(typed, owner);
+        }
+    }
+
+private:
+    static void adopt(Item* item, INodeCfg* owner) {
+        if (item != nullptr) item->setParent(owner);
+    }
+    static Item* detach(Item* item) {
+        if (item != nullptr) item->setParent(nullptr);
+        return item;
+    }
+
+    std::vector<Item*> items_;
+};
+
+}  // namespace kaz::kazparser
