@@ -63,8 +63,7 @@ protected:
     // Reads the attributes every kind of the family shares: "desc",
     // "scaleRelate" and, where the element's name is not the name, "name".
     // Answers whether `attribute` was one of them.
-    bool readSharedAttribute(const std::wstring& attribute, const std::wstring& value,
-                             bool withName) {
+    bool readSharedAttribute(std::wstring_view attribute, std::wstring_view value, bool withName) {
         if (withName && attribute == L"name") {
             name_ = value;
         } else if (attribute == L"desc") {

@@ -4,9 +4,8 @@ namespace kaz::kazparser {
 
 DataCollectorCfgImpl::DataCollectorCfgImpl(INodeCfg* parent) : PlugInNode(parent) {}
 
-DataCollectorCfgImpl::DataCollectorCfgImpl(const std::wstring& elementName,
-                                           kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-    : PlugInNode(elementName, attributes, parent) {}
+DataCollectorCfgImpl::DataCollectorCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : PlugInNode(element, parent) {}
 
 INodeCfg* DataCollectorCfgImpl::clone() const {
     return new DataCollectorCfgImpl(*this);

@@ -14,8 +14,7 @@ public:
     static constexpr NodeType kNodeType = DataCollector;
 
     explicit DataCollectorCfgImpl(INodeCfg* parent);
-    DataCollectorCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,
-                         INodeCfg* parent);
+    DataCollectorCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override;
 

@@ -4,9 +4,8 @@ namespace kaz::kazparser {
 
 DataModifierCfgImpl::DataModifierCfgImpl(INodeCfg* parent) : PlugInNode(parent) {}
 
-DataModifierCfgImpl::DataModifierCfgImpl(const std::wstring& elementName,
-                                         kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-    : PlugInNode(elementName, attributes, parent) {}
+DataModifierCfgImpl::DataModifierCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : PlugInNode(element, parent) {}
 
 INodeCfg* DataModifierCfgImpl::clone() const {
     return new DataModifierCfgImpl(*this);

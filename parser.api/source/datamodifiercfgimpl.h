@@ -15,8 +15,7 @@ public:
     static constexpr NodeType kNodeType = DataModifier;
 
     explicit DataModifierCfgImpl(INodeCfg* parent);
-    DataModifierCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,
-                        INodeCfg* parent);
+    DataModifierCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override;
 

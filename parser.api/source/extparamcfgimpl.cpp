@@ -8,10 +8,10 @@ namespace kaz::kazparser {
 
 ExtParamCfgImpl::ExtParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
 
-ExtParamCfgImpl::ExtParamCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+ExtParamCfgImpl::ExtParamCfgImpl(const ElementStart& element, INodeCfg* parent)
     : DataChildNode(parent) {
-    for (const auto& [name, value] : readAttributes(attributes))
-        readSharedAttribute(name, value, true);
+    forEachAttribute(element, AttributeNaming::Qualified,
+                     [&](auto name, auto value) { readSharedAttribute(name, value, true); });
 }
 
 const std::wstring& ExtParamCfgImpl::getName() const {

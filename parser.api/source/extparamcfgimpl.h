@@ -15,7 +15,7 @@ public:
 
     explicit ExtParamCfgImpl(INodeCfg* parent);
     // Reads "name", "desc" and "scaleRelate".
-    ExtParamCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    ExtParamCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new ExtParamCfgImpl(*this); }

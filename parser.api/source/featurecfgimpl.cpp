@@ -15,17 +15,18 @@ const std::wstring& defaultName() {
 
 FeatureCfgImpl::FeatureCfgImpl(INodeCfg* parent) : LeafNode(parent), name_(defaultName()) {}
 
-FeatureCfgImpl::FeatureCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                               INodeCfg* parent)
-    : LeafNode(parent), name_(name), attributesText_(attributeText(attributes)) {}
+FeatureCfgImpl::FeatureCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : LeafNode(parent), name_(element.name), attributesText_(attributeText(element)) {}
 
-std::wstring FeatureCfgImpl::attributeText(kaz::xml::ISAXAttributes* attributes) {
+std::wstring FeatureCfgImpl::attributeText(const ElementStart& element) {
     std::wstring text;
-    if (attributes == nullptr) return text;
-    const int count = attributeCount(*attributes);
-    for (int i = 0; i < count; ++i)
-        text += L' ' + attributeLocalName(*attributes, i) + L"=\"" +
-                attributeValue(*attributes, i) + L'"';
+    if (element.attributes == nullptr) return text;
+    const int count = attributeCount(*element.attributes);
+    for (int i = 0; i < count; ++i) {
+        const AttributeView attribute = attributeAt(*element.attributes, i);
+        text.append(L" ").append(attribute.localName).append(L"=\"");
+        text.append(attribute.value).append(L"\"");
+    }
     return text;
 }
 

@@ -6,6 +6,7 @@
 #include "kazparser/IFeatureCfg.h"
 #include "kazxml/SAX.h"
 #include "leafnode.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
 
@@ -18,13 +19,12 @@ public:
 
     // Named "Feature".
     explicit FeatureCfgImpl(INodeCfg* parent);
-    FeatureCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                   INodeCfg* parent);
+    FeatureCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     // The form a feature keeps attributes in: each as a blank, the local
     // name, "=\"", the value as it is and "\"". The tree builder writes the
     // attributes of markup nested in a feature the same way.
-    static std::wstring attributeText(kaz::xml::ISAXAttributes* attributes);
+    static std::wstring attributeText(const ElementStart& element);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new FeatureCfgImpl(*this); }

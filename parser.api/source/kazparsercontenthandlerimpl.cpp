@@ -119,10 +119,11 @@ bool KAZParserContentHandlerImpl::capturing() const {
 void KAZParserContentHandlerImpl::captureStart(const std::wstring& name,
                                                KAZSAXAttributesImpl& attributes) {
     ++nested_;
+    const ElementStart element{name, &attributes, {}};
     if (mode() == Mode::Raw)
-        topContent()->appendText(L'<' + name + FeatureCfgImpl::attributeText(&attributes) + L'>');
+        topContent()->appendText(L'<' + name + FeatureCfgImpl::attributeText(element) + L'>');
     else
-        captured_.startElement(name, readAttributes(&attributes));
+        captured_.startElement(element);
 }
 
 void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {

@@ -10,7 +10,7 @@ using kaz::xml::Node;
 // Exact escaping, so that the markup parses back to the same text. Carriage
 // returns, and in attribute values tabs and line breaks, are written as
 // character references, which a reader does not normalise.
-void appendEscaped(std::wstring& out, const std::wstring& text, bool inAttribute) {
+void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) {
     for (wchar_t c : text) {
         switch (c) {
             case L'&':
@@ -46,18 +46,25 @@ bool isCharacterData(const Node& node) {
 
 }  // namespace
 
+void MarkupCapture::startElement(const ElementStart& element) {
+    hasElements_ = true;
+    markup_.append(L"<").append(element.name);
+    forEachAttribute(element, AttributeNaming::Qualified,
+                     [&](auto name, auto value) { appendAttribute(name, value); });
+    markup_ += L'>';
+}
+
 void MarkupCapture::startElement(const std::wstring& name, const AttributeList& attributes) {
     hasElements_ = true;
-    markup_ += L'<';
-    markup_ += name;
-    for (const auto& [attributeName, value] : attributes) {
-        markup_ += L' ';
-        markup_ += attributeName;
-        markup_ += L"=\"";
-        appendEscaped(markup_, value, true);
-        markup_ += L'"';
-    }
+    markup_.append(L"<").append(name);
+    for (const auto& [attribute, value] : attributes) appendAttribute(attribute, value);
     markup_ += L'>';
+}
+
+void MarkupCapture::appendAttribute(std::wstring_view name, std::wstring_view value) {
+    markup_.append(L" ").append(name).append(L"=\"");
+    appendEscaped(markup_, value, true);
+    markup_ += L'"';
 }
 
 void MarkupCapture::characters(const std::wstring& text) {

@@ -14,6 +14,7 @@ namespace kaz::kazparser {
 // references keep their content this way while their element is open.
 class MarkupCapture {
 public:
+    void startElement(const ElementStart& element);
     void startElement(const std::wstring& name, const AttributeList& attributes);
     void characters(const std::wstring& text);
     void endElement(const std::wstring& name);
@@ -30,6 +31,8 @@ public:
     void add(const kaz::xml::Node& node);
 
 private:
+    void appendAttribute(std::wstring_view name, std::wstring_view value);
+
     std::wstring text_;
     std::wstring markup_;
     bool hasElements_ = false;

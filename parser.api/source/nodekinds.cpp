@@ -44,19 +44,14 @@ namespace {
 
 using T = INodeCfg;
 
-// Makes an `Impl` from as much of the element as its constructor reads:
-// name, attributes and parent; attributes and parent; name and parent; or
-// the parent alone. The node knows where its element starts.
+// Makes an `Impl` from the element and its parent, or from the parent alone
+// for the kinds that read nothing of the element. The node knows where its
+// element starts.
 template <class Impl>
 Made make(const ElementStart& element, INodeCfg* parent) {
-    using Attributes = kaz::xml::ISAXAttributes*;
     Impl* node;
-    if constexpr (std::is_constructible_v<Impl, const std::wstring&, Attributes, INodeCfg*>)
-        node = new Impl(element.name, element.attributes, parent);
-    else if constexpr (std::is_constructible_v<Impl, Attributes, INodeCfg*>)
-        node = new Impl(element.attributes, parent);
-    else if constexpr (std::is_constructible_v<Impl, const std::wstring&, INodeCfg*>)
-        node = new Impl(element.name, parent);
+    if constexpr (std::is_constructible_v<Impl, const ElementStart&, INodeCfg*>)
+        node = new Impl(element, parent);
     else
         node = new Impl(parent);
     node->locate(element.where);

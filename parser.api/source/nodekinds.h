@@ -7,7 +7,7 @@
 #include "contentsink.h"
 #include "kazparser/INodeCfg.h"
 #include "kazparser/SourceLocation.h"
-#include "kazxml/SAX.h"
+#include "saxattributes.h"
 
 // The node kinds, stated once: each kind's node type, tag, class name, how
 // it is made from an element, what becomes of the element's content, and
@@ -22,13 +22,6 @@ enum class Content : unsigned char {
     Raw,        // everything inside, nested markup too, is the node's text
     Markup,     // the content is kept as markup
     Value,      // the content is read as a typed data value
-};
-
-// One element as the builder reads it.
-struct ElementStart {
-    const std::wstring& name;
-    kaz::xml::ISAXAttributes* attributes;  // the macro already replaced
-    SourceLocation where;
 };
 
 // A node just made, and where its element's content goes (null for Nodes).

@@ -18,12 +18,10 @@ ParamCfgImpl::ParamCfgImpl(INodeCfg* parent) : DataChildNode(parent) {
     name_ = kinds::tag(INodeCfg::Param);
 }
 
-ParamCfgImpl::ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                           INodeCfg* parent)
-    : DataChildNode(parent) {
-    name_ = name;
-    for (const auto& [attribute, value] : readAttributes(attributes)) {
-        if (readSharedAttribute(attribute, value, false)) continue;
+ParamCfgImpl::ParamCfgImpl(const ElementStart& element, INodeCfg* parent) : DataChildNode(parent) {
+    name_ = element.name;
+    forEachAttribute(element, AttributeNaming::Qualified, [&](auto attribute, auto value) {
+        if (readSharedAttribute(attribute, value, false)) return;
         if (attribute == L"shift") {
             shift_ = ioutils::parseDouble(value);
         } else if (attribute == L"transformCode") {
@@ -33,9 +31,9 @@ ParamCfgImpl::ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* a
         } else if (attribute == L"systemValue") {
             systemValue_ = flagValue(value);
         } else {
-            extras_.set(attribute, value);
+            extras_.set(std::wstring(attribute), std::wstring(value));
         }
-    }
+    });
 }
 
 bool ParamCfgImpl::writeXml(IXmlWriter& out) const {

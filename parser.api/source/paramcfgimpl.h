@@ -20,7 +20,7 @@ public:
     // Takes the element name; reads "shift", "transformCode", "scaleRelate",
     // "shiftScaleRelate", "systemValue" and "desc", and keeps every other
     // attribute as an extra attribute, in document order.
-    ParamCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    ParamCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override { return name_; }
     INodeCfg* clone() const override { return new ParamCfgImpl(*this); }

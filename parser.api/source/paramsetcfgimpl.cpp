@@ -10,10 +10,9 @@ namespace kaz::kazparser {
 
 ParamSetCfgImpl::ParamSetCfgImpl(INodeCfg* parent) : NodeCollection(parent) {}
 
-ParamSetCfgImpl::ParamSetCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                                 INodeCfg* parent)
-    : NodeCollection(parent), elementName_(name) {
-    for (const auto& [attribute, value] : readAttributes(attributes)) {
+ParamSetCfgImpl::ParamSetCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : NodeCollection(parent), elementName_(element.name) {
+    forEachAttribute(element, AttributeNaming::Qualified, [&](auto attribute, auto value) {
         if (attribute == L"name") {
             name_ = value;
         } else if (attribute == L"nameStringID") {
@@ -23,9 +22,9 @@ ParamSetCfgImpl::ParamSetCfgImpl(const std::wstring& name, kaz::xml::ISAXAttribu
         } else if (attribute == L"descStringID") {
             descStringID_ = value;
         } else {
-            extras_.set(attribute, value);
+            extras_.set(std::wstring(attribute), std::wstring(value));
         }
-    }
+    });
 }
 
 const std::wstring& ParamSetCfgImpl::getName() const {

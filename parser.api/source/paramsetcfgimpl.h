@@ -6,6 +6,7 @@
 #include "kazparser/IParamSetCfg.h"
 #include "kazxml/SAX.h"
 #include "nodecollection.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
 
@@ -23,8 +24,7 @@ public:
     explicit ParamSetCfgImpl(INodeCfg* parent);
     // Takes the element name; reads "name", "nameStringID", "desc" and
     // "descStringID", and keeps every other attribute as an extra attribute.
-    ParamSetCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                    INodeCfg* parent);
+    ParamSetCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new ParamSetCfgImpl(*this); }

@@ -72,13 +72,12 @@ protected:
 
     // Keeps only "engineFile" and "engineID" (exact names; the last of a
     // repeated one wins) and drops every other attribute.
-    PlugInNode(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,
-               INodeCfg* parent)
-        : Children(parent), name_(elementName) {
-        for (const auto& [qName, value] : readAttributes(attributes)) {
+    PlugInNode(const ElementStart& element, INodeCfg* parent)
+        : Children(parent), name_(element.name) {
+        forEachAttribute(element, AttributeNaming::Qualified, [&](auto qName, auto value) {
             if (qName == L"engineFile") engineFile_ = value;
             if (qName == L"engineID") engineID_ = value;
-        }
+        });
     }
 
     // The note and the text buffer are not copied; the list is deep-copied.

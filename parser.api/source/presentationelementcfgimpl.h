@@ -22,8 +22,8 @@ public:
     explicit PresentationElementCfgImpl(INodeCfg* parent) : PresentationNode(parent) {}
     // Reads "name", "desc", "kaz.DwgSysParam.MeasureScale", "schemaVersion",
     // "nameStringID" and "descStringID"; other attributes are ignored.
-    PresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : PresentationNode(readAttributes(attributes, AttributeNaming::Local), parent) {}
+    PresentationElementCfgImpl(const ElementStart& element, INodeCfg* parent)
+        : PresentationNode(element, parent) {}
 
     INodeCfg* clone() const override { return new PresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;

@@ -8,11 +8,11 @@ const std::wstring& PresentationGroupCfgImpl::tag() {
     return kinds::tag(INodeCfg::PresentationGroup);
 }
 
-PresentationGroupCfgImpl::PresentationGroupCfgImpl(const AttributeList& attributes,
-                                                   INodeCfg* parent)
-    : PresentationNode(attributes, parent) {
-    for (const auto& [name, value] : attributes)
+PresentationGroupCfgImpl::PresentationGroupCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : PresentationNode(element, parent) {
+    forEachAttribute(element, AttributeNaming::Local, [&](auto name, auto value) {
         if (name == L"previewImg") previewImg_ = value;
+    });
 }
 
 bool PresentationGroupCfgImpl::writeXml(IXmlWriter& out) const {

@@ -20,8 +20,7 @@ public:
 
     explicit PresentationGroupCfgImpl(INodeCfg* parent) : PresentationNode(parent) {}
     // Reads the element's attributes and "previewImg"; others are ignored.
-    PresentationGroupCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : PresentationGroupCfgImpl(readAttributes(attributes, AttributeNaming::Local), parent) {}
+    PresentationGroupCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override { return new PresentationGroupCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override;
@@ -47,7 +46,6 @@ public:
     void setSchemaVersion(const std::wstring& version) override { schemaVersion_ = version; }
 
 private:
-    PresentationGroupCfgImpl(const AttributeList& attributes, INodeCfg* parent);
     PresentationGroupCfgImpl(const PresentationGroupCfgImpl& other) = default;
 
     std::wstring previewImg_;

@@ -88,10 +88,10 @@ public:
 protected:
     explicit PresentationNode(INodeCfg* parent) : Children(parent) {}
 
-    // Reads the shared attributes by exact name (the last of a repeated one
+    // Reads the shared attributes by local name (the last of a repeated one
     // wins; others are left to the kind), then resolves the display texts.
-    PresentationNode(const AttributeList& attributes, INodeCfg* parent) : Children(parent) {
-        for (const auto& [name, value] : attributes) {
+    PresentationNode(const ElementStart& element, INodeCfg* parent) : Children(parent) {
+        forEachAttribute(element, AttributeNaming::Local, [&](auto name, auto value) {
             if (name == L"name") {
                 name_ = displayName_ = value;
             } else if (name == L"desc") {
@@ -107,7 +107,7 @@ protected:
             } else if (name == L"descStringID") {
                 descStringID_ = value;
             }
-        }
+        });
         resolveDisplayText(nameStringID_, displayName_);
         resolveDisplayText(descStringID_, displayDesc_);
     }

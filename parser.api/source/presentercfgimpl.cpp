@@ -4,9 +4,8 @@ namespace kaz::kazparser {
 
 PresenterCfgImpl::PresenterCfgImpl(INodeCfg* parent) : PlugInNode(parent) {}
 
-PresenterCfgImpl::PresenterCfgImpl(const std::wstring& elementName,
-                                   kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-    : PlugInNode(elementName, attributes, parent) {}
+PresenterCfgImpl::PresenterCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : PlugInNode(element, parent) {}
 
 INodeCfg* PresenterCfgImpl::clone() const {
     return new PresenterCfgImpl(*this);

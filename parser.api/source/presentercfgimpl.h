@@ -15,8 +15,7 @@ public:
     static constexpr NodeType kNodeType = Presenter;
 
     explicit PresenterCfgImpl(INodeCfg* parent);
-    PresenterCfgImpl(const std::wstring& elementName, kaz::xml::ISAXAttributes* attributes,
-                     INodeCfg* parent);
+    PresenterCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override;
     bool isValid() const override { return false; }

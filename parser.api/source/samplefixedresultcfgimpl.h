@@ -17,8 +17,8 @@ public:
     static constexpr NodeType kNodeType = SampleFixedResult;
 
     explicit SampleFixedResultCfgImpl(INodeCfg* parent) : FixedChildren(parent) {}
-    SampleFixedResultCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : FixedChildren(readAttributes(attributes), parent) {}
+    SampleFixedResultCfgImpl(const ElementStart& element, INodeCfg* parent)
+        : FixedChildren(element, parent) {}
 
     INodeCfg* clone() const override { return new SampleFixedResultCfgImpl(*this); }
     // Takes a data node without re-parenting it; the previous one is let go

@@ -7,14 +7,11 @@
 
 namespace kaz::kazparser {
 
-SampleRefResultCfgImpl::SampleRefResultCfgImpl(kaz::xml::ISAXAttributes* attributes,
-                                               INodeCfg* parent)
-    : SampleRefResultCfgImpl(readAttributes(attributes), parent) {}
-
-SampleRefResultCfgImpl::SampleRefResultCfgImpl(const AttributeList& attributes, INodeCfg* parent)
-    : SampleResultNode(attributes, parent) {
-    for (const auto& [qName, value] : attributes)
+SampleRefResultCfgImpl::SampleRefResultCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : SampleResultNode(element, parent) {
+    forEachAttribute(element, AttributeNaming::Qualified, [&](auto qName, auto value) {
         if (qName == L"refData") refData_ = value;
+    });
 }
 
 INodeCfg* SampleRefResultCfgImpl::getChild(unsigned int index) const {

@@ -20,7 +20,7 @@ public:
     static constexpr NodeType kNodeType = SampleRefResult;
 
     explicit SampleRefResultCfgImpl(INodeCfg* parent) : SampleResultNode(parent) {}
-    SampleRefResultCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    SampleRefResultCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override { return new SampleRefResultCfgImpl(*this); }
     INodeCfg* getChild(unsigned int index) const override;
@@ -35,7 +35,6 @@ public:
     void addAttributes(StartTag& tag) const { tag.text(L"refData", refData_); }
 
 private:
-    SampleRefResultCfgImpl(const AttributeList& attributes, INodeCfg* parent);
     // The text read so far is not copied.
     SampleRefResultCfgImpl(const SampleRefResultCfgImpl& other)
         : SampleResultNode(other), refData_(other.refData_) {}

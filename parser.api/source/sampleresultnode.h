@@ -41,12 +41,11 @@ public:
 protected:
     explicit SampleResultNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
     // Takes "name" and "desc" (the last of a repeated one wins).
-    SampleResultNode(const AttributeList& attributes, INodeCfg* parent)
-        : NodeImpl<Interface>(parent) {
-        for (const auto& [qName, value] : attributes) {
+    SampleResultNode(const ElementStart& element, INodeCfg* parent) : NodeImpl<Interface>(parent) {
+        forEachAttribute(element, AttributeNaming::Qualified, [&](auto qName, auto value) {
             if (qName == L"name") name_ = value;
             if (qName == L"desc") desc_ = value;
-        }
+        });
     }
     SampleResultNode(const SampleResultNode& other) = default;
 

@@ -7,10 +7,11 @@
 
 namespace kaz::kazparser {
 
-SampleResultsCfgImpl::SampleResultsCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+SampleResultsCfgImpl::SampleResultsCfgImpl(const ElementStart& element, INodeCfg* parent)
     : NodeCollection(parent) {
-    for (const auto& [qName, value] : readAttributes(attributes))
+    forEachAttribute(element, AttributeNaming::Qualified, [&](auto qName, auto value) {
         if (qName == L"name") name_ = value;
+    });
 }
 
 SampleResultsCfgImpl::SampleResultsCfgImpl(const SampleResultsCfgImpl& other)

@@ -6,6 +6,7 @@
 #include "kazparser/ISampleResultsCfg.h"
 #include "kazxml/SAX.h"
 #include "nodecollection.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
 
@@ -21,7 +22,7 @@ public:
 
     explicit SampleResultsCfgImpl(INodeCfg* parent) : NodeCollection(parent) {}
     // Reads the list's "name".
-    SampleResultsCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    SampleResultsCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new SampleResultsCfgImpl(*this); }

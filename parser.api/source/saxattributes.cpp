@@ -12,10 +12,6 @@ void check(long result, const wchar_t* operation) {
     checkReaderCall(result, L"ISAXAttributes", operation);
 }
 
-bool isNamespaceDeclaration(std::wstring_view qName) {
-    return qName == L"xmlns" || qName.starts_with(L"xmlns:");
-}
-
 }  // namespace
 
 void checkReaderCall(long result, const wchar_t* interfaceName, const wchar_t* operation) {
@@ -31,45 +27,33 @@ int attributeCount(kaz::xml::ISAXAttributes& attributes) {
     return length;
 }
 
-std::wstring attributeQName(kaz::xml::ISAXAttributes& attributes, int index) {
-    const wchar_t* name = nullptr;
-    int length = 0;
-    check(attributes.getQName(index, &name, &length), L"getQName");
-    return std::wstring(name, static_cast<std::size_t>(length));
+AttributeView attributeAt(kaz::xml::ISAXAttributes& attributes, int index) {
+    const wchar_t *uri = nullptr, *localName = nullptr, *qName = nullptr, *value = nullptr;
+    int uriLength = 0, localNameLength = 0, qNameLength = 0, valueLength = 0;
+    check(attributes.getName(index, &uri, &uriLength, &localName, &localNameLength, &qName,
+                             &qNameLength),
+          L"getName");
+    check(attributes.getValue(index, &value, &valueLength), L"getValue");
+    auto view = [](const wchar_t* text, int length) {
+        return std::wstring_view(text, text != nullptr ? static_cast<std::size_t>(length) : 0);
+    };
+    return {view(qName, qNameLength), view(localName, localNameLength), view(value, valueLength)};
 }
 
-std::wstring attributeValue(kaz::xml::ISAXAttributes& attributes, int index) {
-    const wchar_t* value = nullptr;
-    int length = 0;
-    check(attributes.getValue(index, &value, &length), L"getValue");
-    return std::wstring(value, static_cast<std::size_t>(length));
+bool isNamespaceDeclaration(std::wstring_view qName) {
+    return qName == L"xmlns" || qName.starts_with(L"xmlns:");
 }
 
-std::wstring attributeLocalName(kaz::xml::ISAXAttributes& attributes, int index) {
-    const wchar_t* name = nullptr;
-    int length = 0;
-    check(attributes.getLocalName(index, &name, &length), L"getLocalName");
-    return std::wstring(name, static_cast<std::size_t>(length));
-}
-
-AttributeList readAttributes(kaz::xml::ISAXAttributes* attributes, AttributeNaming naming) {
+AttributeList readAttributes(const ElementStart& element) {
     AttributeList list;
-    if (attributes == nullptr) return list;
-    const int count = attributeCount(*attributes);
-    list.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        std::wstring qName = attributeQName(*attributes, i);
-        if (naming == AttributeNaming::Qualified) {
-            list.emplace_back(std::move(qName), attributeValue(*attributes, i));
-        } else if (!isNamespaceDeclaration(qName)) {
-            list.emplace_back(attributeLocalName(*attributes, i), attributeValue(*attributes, i));
-        }
-    }
+    forEachAttribute(
+        element, AttributeNaming::Qualified,
+        [&](std::wstring_view name, std::wstring_view value) { list.emplace_back(name, value); });
     return list;
 }
 
-bool flagValue(const std::wstring& value) {
-    static const std::wstring kTrue = L"true";
+bool flagValue(std::wstring_view value) {
+    constexpr std::wstring_view kTrue = L"true";
     return std::equal(value.begin(), value.end(), kTrue.begin(), kTrue.end(),
                       [](wchar_t c, wchar_t t) {
                           return static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c))) == t;

@@ -8,8 +8,8 @@
 
 namespace kaz::kazparser {
 
-SelectTablesCfgImpl::SelectTablesCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-    : LeafNode(parent), attributes_(readAttributes(attributes)) {}
+SelectTablesCfgImpl::SelectTablesCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : LeafNode(parent), attributes_(readAttributes(element)) {}
 
 const std::wstring& SelectTablesCfgImpl::getName() const {
     return kinds::tag(INodeCfg::SelectTables);

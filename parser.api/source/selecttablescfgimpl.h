@@ -19,7 +19,7 @@ public:
 
     explicit SelectTablesCfgImpl(INodeCfg* parent) : LeafNode(parent) {}
     // Copies every attribute in document order.
-    SelectTablesCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    SelectTablesCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new SelectTablesCfgImpl(*this); }

@@ -26,8 +26,8 @@ constexpr std::array<std::pair<IElement::ElementType, const wchar_t*>, 7> kEleme
 
 UseDataCfgImpl::UseDataCfgImpl(INodeCfg* parent) : LeafNode(parent) {}
 
-UseDataCfgImpl::UseDataCfgImpl(const std::wstring& name, INodeCfg* parent)
-    : LeafNode(parent), name_(name) {}
+UseDataCfgImpl::UseDataCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : LeafNode(parent), name_(element.name) {}
 
 UseDataCfgImpl::UseDataCfgImpl(const UseDataCfgImpl& other)
     : MemObject(other),

@@ -6,6 +6,7 @@
 #include "contentsink.h"
 #include "kazparser/IUseDataCfg.h"
 #include "leafnode.h"
+#include "saxattributes.h"
 #include "tableobj/IScalar.h"
 
 namespace kaz::kazparser {
@@ -17,7 +18,7 @@ public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseDataCfgImpl";
 
     explicit UseDataCfgImpl(INodeCfg* parent);
-    UseDataCfgImpl(const std::wstring& name, INodeCfg* parent);
+    UseDataCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override;

@@ -23,8 +23,8 @@ public:
         : UsePresentationElementNode(parent) {}
     // Reads "active", "label", "desc", "labelStringID", "descStringID",
     // "elemID" and "refMainData"; other attributes are ignored.
-    UseFixedPresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : UsePresentationElementNode(readAttributes(attributes, AttributeNaming::Local), parent) {}
+    UseFixedPresentationElementCfgImpl(const ElementStart& element, INodeCfg* parent)
+        : UsePresentationElementNode(element, parent) {}
 
     INodeCfg* clone() const override { return new UseFixedPresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override { return writeReference(out, {}); }

@@ -64,11 +64,10 @@ public:
 protected:
     explicit UsePresentationElementNode(INodeCfg* parent) : Children(parent) {}
 
-    // Reads the shared attributes by exact name (the last of a repeated one
+    // Reads the shared attributes by local name (the last of a repeated one
     // wins; others are left to the kind), then resolves the display texts.
-    UsePresentationElementNode(const AttributeList& attributes, INodeCfg* parent)
-        : Children(parent) {
-        for (const auto& [name, value] : attributes) {
+    UsePresentationElementNode(const ElementStart& element, INodeCfg* parent) : Children(parent) {
+        forEachAttribute(element, AttributeNaming::Local, [&](auto name, auto value) {
             if (name == L"active") {
                 active_ = flagValue(value);
             } else if (name == L"label") {
@@ -84,7 +83,7 @@ protected:
             } else if (name == L"refMainData") {
                 refMainData_ = value;
             }
-        }
+        });
         resolveDisplayText(labelStringID_, displayLabel_);
         resolveDisplayText(descStringID_, displayDesc_);
     }

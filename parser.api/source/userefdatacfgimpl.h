@@ -5,6 +5,7 @@
 #include "contentsink.h"
 #include "kazparser/IUseRefDataCfg.h"
 #include "leafnode.h"
+#include "saxattributes.h"
 
 namespace kaz::kazparser {
 
@@ -16,7 +17,8 @@ public:
     static constexpr const wchar_t* kClassName = L"kaz::kazparser::UseRefDataCfgImpl";
 
     explicit UseRefDataCfgImpl(INodeCfg* parent) : LeafNode(parent) {}
-    UseRefDataCfgImpl(const std::wstring& name, INodeCfg* parent) : LeafNode(parent), name_(name) {}
+    UseRefDataCfgImpl(const ElementStart& element, INodeCfg* parent)
+        : LeafNode(parent), name_(element.name) {}
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new UseRefDataCfgImpl(*this); }

@@ -8,11 +8,12 @@ const std::wstring& UseRefPresentationElementCfgImpl::tag() {
     return kinds::tag(INodeCfg::UseRefPresentationElement);
 }
 
-UseRefPresentationElementCfgImpl::UseRefPresentationElementCfgImpl(const AttributeList& attributes,
+UseRefPresentationElementCfgImpl::UseRefPresentationElementCfgImpl(const ElementStart& element,
                                                                    INodeCfg* parent)
-    : UsePresentationElementNode(attributes, parent) {
-    for (const auto& [name, value] : attributes)
+    : UsePresentationElementNode(element, parent) {
+    forEachAttribute(element, AttributeNaming::Local, [&](auto name, auto value) {
         if (name == L"refFileName") refFileName_ = value;
+    });
 }
 
 bool UseRefPresentationElementCfgImpl::setRefFileName(const std::wstring& fileName) {

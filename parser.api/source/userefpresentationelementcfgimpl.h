@@ -22,9 +22,7 @@ public:
     explicit UseRefPresentationElementCfgImpl(INodeCfg* parent)
         : UsePresentationElementNode(parent) {}
     // Reads the fixed reference's attributes and "refFileName".
-    UseRefPresentationElementCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
-        : UseRefPresentationElementCfgImpl(readAttributes(attributes, AttributeNaming::Local),
-                                           parent) {}
+    UseRefPresentationElementCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     INodeCfg* clone() const override { return new UseRefPresentationElementCfgImpl(*this); }
     bool writeXml(IXmlWriter& out) const override { return writeReference(out, refFileName_); }
@@ -39,7 +37,6 @@ public:
     const std::wstring& getRefFileName() const override { return refFileName_; }
 
 private:
-    UseRefPresentationElementCfgImpl(const AttributeList& attributes, INodeCfg* parent);
     UseRefPresentationElementCfgImpl(const UseRefPresentationElementCfgImpl& other) = default;
 
     std::wstring refFileName_;

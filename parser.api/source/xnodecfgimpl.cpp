@@ -46,9 +46,8 @@ std::wstring elementText(std::wstring text) {
 
 XNodeCfgImpl::XNodeCfgImpl(INodeCfg* parent) : NodeCollection(parent) {}
 
-XNodeCfgImpl::XNodeCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes,
-                           INodeCfg* parent)
-    : NodeCollection(parent), name_(name), attributes_(readAttributes(attributes)) {}
+XNodeCfgImpl::XNodeCfgImpl(const ElementStart& element, INodeCfg* parent)
+    : NodeCollection(parent), name_(element.name), attributes_(readAttributes(element)) {}
 
 const std::wstring& XNodeCfgImpl::getName() const {
     const std::wstring& defaultName = kinds::tag(INodeCfg::XNode);

@@ -19,7 +19,7 @@ public:
 
     explicit XNodeCfgImpl(INodeCfg* parent);
     // Keeps the element name and copies every attribute in document order.
-    XNodeCfgImpl(const std::wstring& name, kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    XNodeCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override;

@@ -15,8 +15,9 @@ long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*
                                              const wchar_t* qName, int qNameLength,
                                              kaz::xml::ISAXAttributes* attributes) {
     const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
-    std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(name, attributes, nextParent()));
-    node->locate(startTagLocation());
+    const ElementStart element{name, attributes, startTagLocation()};
+    std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(element, nextParent()));
+    node->locate(element.where);
     push(node.get(), node.get());
     node.release();
     return kaz::xml::S_OK;

@@ -8,12 +8,12 @@ namespace kaz::kazparser {
 
 XValueCfgImpl::XValueCfgImpl(INodeCfg* parent) : DataChildNode(parent) {}
 
-XValueCfgImpl::XValueCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent)
+XValueCfgImpl::XValueCfgImpl(const ElementStart& element, INodeCfg* parent)
     : DataChildNode(parent) {
-    for (const auto& [name, value] : readAttributes(attributes)) {
+    forEachAttribute(element, AttributeNaming::Qualified, [&](auto name, auto value) {
         if (!readSharedAttribute(name, value, true) && name == L"systemValue")
             systemValue_ = flagValue(value);
-    }
+    });
 }
 
 const std::wstring& XValueCfgImpl::getName() const {

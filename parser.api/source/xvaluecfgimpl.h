@@ -18,7 +18,7 @@ public:
 
     explicit XValueCfgImpl(INodeCfg* parent);
     // Reads "name", "desc", "scaleRelate" and "systemValue".
-    XValueCfgImpl(kaz::xml::ISAXAttributes* attributes, INodeCfg* parent);
+    XValueCfgImpl(const ElementStart& element, INodeCfg* parent);
 
     const std::wstring& getName() const override;
     INodeCfg* clone() const override { return new XValueCfgImpl(*this); }
