@@ -5,7 +5,6 @@
 #include "environmentadapter/IEnvironmentAdapter.h"
 #include "featurecfgimpl.h"
 #include "kazparser/ISampleFixedResultCfg.h"
-#include "kazparser/KAZConfigFactory.h"
 #include "nodeerrors.h"
 #include "tablereader.h"
 #include "usedatacfgimpl.h"
@@ -131,7 +130,7 @@ void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {
     if (mode() == Mode::Raw)
         topContent()->appendText(endTag(name));
     else
-        captured_.endElement(name);
+        captured_.endElement();
 }
 
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
@@ -203,25 +202,18 @@ void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {
     captured_.clear();
 }
 
-// Content without elements is read from its text directly; content with
-// elements is read back through the document, as createUseDataCfg reads it.
+// The content was collected as the reader delivered it; a "Tables" element
+// holding lists of tables is read as a collection of them.
 tableobj::IElement* KAZParserContentHandlerImpl::readDataValue(const std::wstring& name) const {
     using tableobj::IElement;
     IElement::ElementType type = UseDataCfgImpl::typeOfElement(name);
-    if (!captured_.hasElements()) return tablereader::valueFromText(type, captured_.text());
-    const IXMLDOMDocument2Ptr doc = KAZConfigFactory::createXMLDocument();
-    if (!KAZConfigFactory::loadXMLContent(doc,
-                                          L"<" + name + L">" + captured_.markup() + endTag(name)))
-        errors::invalidData(
-            L"<" + name + L">: its content does not read back: " + doc->parseError().reason,
-            KAZ_HERE(L"kaz::kazparser::KAZParserContentHandlerImpl", L"endElement"));
-    const IXMLDOMNodePtr element = doc->documentElement();
+    const ContentNode& content = captured_.content();
     if (type == IElement::Tables) {
-        const IXMLDOMNodePtr tables = tablereader::firstElementChild(*element);
+        const ContentNode* tables = tablereader::firstElementChild(content);
         if (tables != nullptr && tablereader::holdsTablesLists(*tables))
             type = IElement::TablesCollection;
     }
-    return KAZConfigFactory::createDataValue(type, element);
+    return tablereader::readValue(type, content);
 }
 
 }  // namespace kaz::kazparser

@@ -251,7 +251,7 @@ IUseRefDataCfg* KAZConfigFactory::createUseRefDataCfg(tableobj::IElement::Elemen
     if (!loadXMLContent(doc, text)) return node.release();
     const IXMLDOMNodePtr element = doc->documentElement();
     node->setElementName(element->nodeName());
-    node->setReference(firstChildMarkup(*element));
+    node->setReference(leadingMarkup(contentOf(*element)));
     return node.release();
 }
 
@@ -264,53 +264,27 @@ ILanguageStringCfg* KAZConfigFactory::createLanguageStringCfg(const std::wstring
 
 tableobj::IElement* KAZConfigFactory::createDataValue(tableobj::IElement::ElementType type,
                                                       IXMLDOMNodePtr element) {
-    using tableobj::IElement;
-    switch (type) {
-        case IElement::Boolean:
-        case IElement::Double:
-        case IElement::Integer:
-            return tablereader::valueFromText(type, nodeOf(element).text());
-        case IElement::String:
-            return tablereader::valueFromText(type, tablereader::stringContent(nodeOf(element)));
-        default:
-            break;
-    }
-    IXMLDOMNodePtr first = tablereader::firstElementChild(nodeOf(element));
-    if (first == nullptr) return nullptr;
-    switch (type) {
-        case IElement::Column:
-            return createColumn(first);
-        case IElement::Columns:
-            return createColumns(first);
-        case IElement::Table:
-            return createTable(first);
-        case IElement::Tables:
-            return createTables(first);
-        case IElement::TablesCollection:
-            return createTablesCollection(first);
-        default:
-            return nullptr;
-    }
+    return tablereader::readValue(type, contentOf(nodeOf(element)));
 }
 
 tableobj::IColumn* KAZConfigFactory::createColumn(IXMLDOMNodePtr node) {
-    return tablereader::readColumn(nodeOf(node));
+    return tablereader::readColumn(contentOf(nodeOf(node)));
 }
 
 tableobj::IColumns* KAZConfigFactory::createColumns(IXMLDOMNodePtr node) {
-    return tablereader::readColumns(nodeOf(node));
+    return tablereader::readColumns(contentOf(nodeOf(node)));
 }
 
 tableobj::ITable* KAZConfigFactory::createTable(IXMLDOMNodePtr node) {
-    return tablereader::readTable(nodeOf(node));
+    return tablereader::readTable(contentOf(nodeOf(node)));
 }
 
 tableobj::ITables* KAZConfigFactory::createTables(IXMLDOMNodePtr node) {
-    return tablereader::readTables(nodeOf(node));
+    return tablereader::readTables(contentOf(nodeOf(node)));
 }
 
 tableobj::ITablesCollection* KAZConfigFactory::createTablesCollection(IXMLDOMNodePtr node) {
-    return tablereader::readTablesCollection(nodeOf(node));
+    return tablereader::readTablesCollection(contentOf(nodeOf(node)));
 }
 
 // Parameter sets, parameters, values and extension parameters

@@ -1,5 +1,6 @@
 #include "markupcapture.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kaz::kazparser {
@@ -40,77 +41,99 @@ void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) 
     }
 }
 
-bool isCharacterData(const Node& node) {
-    return node.type() == Node::Type::Text || node.type() == Node::Type::CData;
+void appendText(std::wstring& out, const ContentNode& node) {
+    if (node.isText()) out += node.text;
+    for (const ContentNode& child : node.children) appendText(out, child);
 }
 
 }  // namespace
 
+std::optional<std::wstring> ContentNode::attribute(std::wstring_view qName) const {
+    for (const auto& [name, value] : attributes)
+        if (name == qName) return value;
+    return std::nullopt;
+}
+
+std::wstring ContentNode::allText() const {
+    std::wstring text;
+    appendText(text, *this);
+    return text;
+}
+
+ContentNode contentOf(const Node& node) {
+    ContentNode content;
+    if (node.type() != Node::Type::Element) {
+        content.text = node.text();
+        return content;
+    }
+    content.name = node.nodeName();
+    content.attributes = node.attributes();
+    for (const auto& child : node.childNodes()) {
+        const Node::Type type = child->type();
+        if (type == Node::Type::Element || type == Node::Type::Text || type == Node::Type::CData)
+            content.children.push_back(contentOf(*child));
+    }
+    return content;
+}
+
+void appendStartTag(std::wstring& out, std::wstring_view name, const AttributeList& attributes) {
+    out.append(L"<").append(name);
+    for (const auto& [attribute, value] : attributes) {
+        out.append(L" ").append(attribute).append(L"=\"");
+        appendEscaped(out, value, true);
+        out += L'"';
+    }
+    out += L'>';
+}
+
+void appendMarkup(std::wstring& out, const ContentNode& node) {
+    if (node.isText()) return appendEscaped(out, node.text, false);
+    appendStartTag(out, node.name, node.attributes);
+    for (const ContentNode& child : node.children) appendMarkup(out, child);
+    out.append(L"</").append(node.name).append(L">");
+}
+
+std::span<const ContentNode> leadingContent(const ContentNode& element) {
+    const auto& children = element.children;
+    if (!children.empty() && !children.front().isText()) return {children.data(), 1};
+    const auto firstElement = std::find_if(children.begin(), children.end(),
+                                           [](const ContentNode& n) { return !n.isText(); });
+    return {children.data(), static_cast<std::size_t>(firstElement - children.begin())};
+}
+
+std::wstring leadingMarkup(const ContentNode& element) {
+    std::wstring markup;
+    for (const ContentNode& node : leadingContent(element)) appendMarkup(markup, node);
+    return markup;
+}
+
 void MarkupCapture::startElement(const ElementStart& element) {
-    hasElements_ = true;
-    markup_.append(L"<").append(element.name);
-    forEachAttribute(element, AttributeNaming::Qualified,
-                     [&](auto name, auto value) { appendAttribute(name, value); });
-    markup_ += L'>';
-}
-
-void MarkupCapture::startElement(const std::wstring& name, const AttributeList& attributes) {
-    hasElements_ = true;
-    markup_.append(L"<").append(name);
-    for (const auto& [attribute, value] : attributes) appendAttribute(attribute, value);
-    markup_ += L'>';
-}
-
-void MarkupCapture::appendAttribute(std::wstring_view name, std::wstring_view value) {
-    markup_.append(L" ").append(name).append(L"=\"");
-    appendEscaped(markup_, value, true);
-    markup_ += L'"';
+    ContentNode& parent = open();
+    ContentNode& child = parent.children.emplace_back();
+    child.name = element.name;
+    child.attributes = readAttributes(element);
+    open_.push_back(&child);
 }
 
 void MarkupCapture::characters(const std::wstring& text) {
-    text_ += text;
-    appendEscaped(markup_, text, false);
+    auto& children = open().children;
+    if (children.empty() || !children.back().isText()) children.emplace_back();
+    children.back().text += text;
 }
 
-void MarkupCapture::endElement(const std::wstring& name) {
-    markup_ += L"</";
-    markup_ += name;
-    markup_ += L'>';
+void MarkupCapture::endElement() {
+    if (!open_.empty()) open_.pop_back();
 }
 
 void MarkupCapture::clear() {
-    text_.clear();
-    markup_.clear();
-    hasElements_ = false;
+    root_.children.clear();
+    open_.clear();
 }
 
-void MarkupCapture::add(const Node& node) {
-    if (isCharacterData(node)) {
-        characters(node.text());
-    } else if (node.type() == Node::Type::Element) {
-        const std::wstring name = node.nodeName();
-        startElement(name, node.attributes());
-        for (const auto& child : node.childNodes()) add(*child);
-        endElement(name);
-    }
-}
-
-std::vector<kaz::xml::IXMLDOMNodePtr> leadingContent(const Node& element) {
-    std::vector<kaz::xml::IXMLDOMNodePtr> nodes;
-    for (auto& child : element.childNodes()) {
-        if (child->type() == Node::Type::Element) {
-            if (nodes.empty()) nodes.push_back(std::move(child));
-            break;
-        }
-        if (isCharacterData(*child)) nodes.push_back(std::move(child));
-    }
-    return nodes;
-}
-
-std::wstring firstChildMarkup(const Node& element) {
-    MarkupCapture capture;
-    for (const auto& node : leadingContent(element)) capture.add(*node);
-    return capture.markup();
+std::wstring MarkupCapture::markup() const {
+    std::wstring markup;
+    for (const ContentNode& node : root_.children) appendMarkup(markup, node);
+    return markup;
 }
 
 }  // namespace kaz::kazparser

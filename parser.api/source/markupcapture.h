@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "kazxml/Document.h"
@@ -8,42 +11,58 @@
 
 namespace kaz::kazparser {
 
-// Collects the content of an element as it is read: its character data, and
-// the same content as markup that parses back to it (start tags with their
-// attributes, escaped text, end tags; nothing else). Data values and
-// references keep their content this way while their element is open.
-class MarkupCapture {
-public:
-    void startElement(const ElementStart& element);
-    void startElement(const std::wstring& name, const AttributeList& attributes);
-    void characters(const std::wstring& text);
-    void endElement(const std::wstring& name);
-    void clear();
+// A piece of an element's content: an element with its attributes
+// (qualified names, document order) and its own content, or a run of
+// character data. Comments and processing instructions are not kept, as the
+// tree builder never sees them.
+struct ContentNode {
+    std::wstring name;  // empty for character data
+    AttributeList attributes;
+    std::wstring text;  // the character data
+    std::vector<ContentNode> children;
 
-    // Every piece of character data, nested elements' included, in order.
-    const std::wstring& text() const { return text_; }
-    const std::wstring& markup() const { return markup_; }
-    // Whether an element was opened inside the content.
-    bool hasElements() const { return hasElements_; }
-
-    // Adds `node` and what it holds; comments and processing instructions
-    // are left out, as the tree builder never sees them.
-    void add(const kaz::xml::Node& node);
-
-private:
-    void appendAttribute(std::wstring_view name, std::wstring_view value);
-
-    std::wstring text_;
-    std::wstring markup_;
-    bool hasElements_ = false;
+    bool isText() const { return name.empty(); }
+    // The value of the first attribute named `qName`.
+    std::optional<std::wstring> attribute(std::wstring_view qName) const;
+    // Every piece of character data inside, nested elements' included.
+    std::wstring allText() const;
 };
+
+// An element of a document, or its character data, as content.
+ContentNode contentOf(const kaz::xml::Node& node);
+
+// Markup that parses back to the same content: start tags with their
+// attributes, exactly escaped text, end tags.
+void appendMarkup(std::wstring& out, const ContentNode& node);
+void appendStartTag(std::wstring& out, std::wstring_view name, const AttributeList& attributes);
 
 // What the content of `element` starts with: its first child element, or
 // else the character data before any element, every piece of it (so that
-// text split by CDATA sections stays whole). Comments and processing
-// instructions are skipped. Empty when the element holds neither.
-std::vector<kaz::xml::IXMLDOMNodePtr> leadingContent(const kaz::xml::Node& element);
+// text split by CDATA sections stays whole). Empty when it holds neither.
+std::span<const ContentNode> leadingContent(const ContentNode& element);
 // The markup of leadingContent(element).
-std::wstring firstChildMarkup(const kaz::xml::Node& element);
+std::wstring leadingMarkup(const ContentNode& element);
+
+// Collects the content of an element as the reader delivers it. Data values
+// and references keep their content this way while their element is open.
+class MarkupCapture {
+public:
+    void startElement(const ElementStart& element);
+    void characters(const std::wstring& text);
+    void endElement();
+    void clear();
+
+    // The content collected, as the children of a nameless element.
+    const ContentNode& content() const { return root_; }
+    std::wstring markup() const;
+
+private:
+    ContentNode& open() { return open_.empty() ? root_ : *open_.back(); }
+
+    ContentNode root_;
+    // The elements still open, innermost last; only the innermost one grows,
+    // so the others stay where they are.
+    std::vector<ContentNode*> open_;
+};
 
 }  // namespace kaz::kazparser

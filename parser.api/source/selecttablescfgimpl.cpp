@@ -18,9 +18,9 @@ const std::wstring& SelectTablesCfgImpl::getName() const {
 // The start tag is written with the exact escaping of captured markup, so
 // that any attribute value reads back as it was.
 bool SelectTablesCfgImpl::writeXml(IXmlWriter& out) const {
-    MarkupCapture startTag;
-    startTag.startElement(getName(), attributes_);
-    out.write(startTag.markup());
+    std::wstring startTag;
+    appendStartTag(startTag, getName(), attributes_);
+    out.write(std::move(startTag));
     if (!content_.empty()) out.write(content_);
     return out.write(endTag(getName()));
 }

@@ -14,8 +14,7 @@
 namespace kaz::kazparser::tablereader {
 namespace {
 
-using kaz::xml::IXMLDOMNodePtr;
-using kaz::xml::Node;
+using Node = ContentNode;
 using tableobj::IElement;
 using tableobj::TableobjFactory;
 
@@ -27,7 +26,7 @@ std::wstring attributeOf(const Node& element, const wchar_t* name) {
 
 // How messages name an element: its start tag with the name attribute.
 std::wstring describe(const Node& element) {
-    std::wstring text = L"<" + element.nodeName();
+    std::wstring text = L"<" + element.name;
     if (const auto name = element.attribute(L"name")) text += L" name=\"" + *name + L"\"";
     return text + L">";
 }
@@ -42,20 +41,19 @@ bool isBlank(const std::wstring& text) {
 }
 
 void expectName(const Node& element, const wchar_t* name, const wchar_t* method) {
-    if (element.nodeName() != name)
+    if (element.name != name)
         errors::invalidData(describe(element) + L": expected <" + name + L">",
                             KAZ_HERE(kReader, method));
 }
 
 // The child elements; text between them may only be blanks (indentation).
-std::vector<IXMLDOMNodePtr> childElements(const Node& element, const wchar_t* method) {
-    std::vector<IXMLDOMNodePtr> elements;
-    for (auto& child : element.childNodes()) {
-        if (child->type() == Node::Type::Element) {
-            elements.push_back(std::move(child));
-        } else if ((child->type() == Node::Type::Text || child->type() == Node::Type::CData) &&
-                   !isBlank(child->text())) {
-            errors::invalidData(describe(element) + L": unexpected text " + quoted(child->text()),
+std::vector<const Node*> childElements(const Node& element, const wchar_t* method) {
+    std::vector<const Node*> elements;
+    for (const Node& child : element.children) {
+        if (!child.isText()) {
+            elements.push_back(&child);
+        } else if (!isBlank(child.text)) {
+            errors::invalidData(describe(element) + L": unexpected text " + quoted(child.text),
                                 KAZ_HERE(kReader, method));
         }
     }
@@ -67,7 +65,7 @@ std::wstring valueTextOf(const Node& element, const wchar_t* method) {
     if (firstElementChild(element))
         errors::invalidData(describe(element) + L": a value holds no element",
                             KAZ_HERE(kReader, method));
-    return element.text();
+    return element.allText();
 }
 
 IElement::ElementType datatypeOf(const Node& element, const wchar_t* method) {
@@ -139,9 +137,9 @@ void addColumn(tableobj::ITable& table, const Node& tableElement, const Node& el
 
 }  // namespace
 
-IXMLDOMNodePtr firstElementChild(const Node& element) {
-    for (auto& child : element.childNodes())
-        if (child->type() == Node::Type::Element) return std::move(child);
+const Node* firstElementChild(const Node& element) {
+    for (const Node& child : element.children)
+        if (!child.isText()) return &child;
     return nullptr;
 }
 
@@ -173,7 +171,7 @@ tableobj::ITable* readTable(const Node& element) {
     std::unique_ptr<tableobj::ITable> table(
         TableobjFactory::createTable(attributeOf(element, L"name"), attributeOf(element, L"desc")));
     for (const auto& child : childElements(element, L"readTable")) {
-        if (child->nodeName() == L"Properties") {
+        if (child->name == L"Properties") {
             readProperties(*child, *table);
         } else {
             addColumn(*table, element, *child);
@@ -201,8 +199,8 @@ tableobj::ITablesCollection* readTablesCollection(const Node& element) {
 }
 
 bool holdsTablesLists(const Node& tables) {
-    const IXMLDOMNodePtr first = firstElementChild(tables);
-    return first != nullptr && first->nodeName() == L"Tables";
+    const Node* first = firstElementChild(tables);
+    return first != nullptr && first->name == L"Tables";
 }
 
 IElement* valueFromText(IElement::ElementType type, const std::wstring& text) {
@@ -222,9 +220,42 @@ IElement* valueFromText(IElement::ElementType type, const std::wstring& text) {
 
 std::wstring stringContent(const Node& element) {
     std::wstring text;
-    for (const auto& node : leadingContent(element))
-        text += node->type() == Node::Type::Element ? node->xml() : node->text();
+    for (const Node& node : leadingContent(element)) {
+        if (node.isText())
+            text += node.text;
+        else
+            appendMarkup(text, node);
+    }
     return text;
+}
+
+IElement* readValue(IElement::ElementType type, const Node& element) {
+    switch (type) {
+        case IElement::Boolean:
+        case IElement::Double:
+        case IElement::Integer:
+            return valueFromText(type, element.allText());
+        case IElement::String:
+            return valueFromText(type, stringContent(element));
+        default:
+            break;
+    }
+    const Node* first = firstElementChild(element);
+    if (first == nullptr) return nullptr;
+    switch (type) {
+        case IElement::Column:
+            return readColumn(*first);
+        case IElement::Columns:
+            return readColumns(*first);
+        case IElement::Table:
+            return readTable(*first);
+        case IElement::Tables:
+            return readTables(*first);
+        case IElement::TablesCollection:
+            return readTablesCollection(*first);
+        default:
+            return nullptr;
+    }
 }
 
 }  // namespace kaz::kazparser::tablereader

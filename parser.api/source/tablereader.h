@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "kazxml/Document.h"
+#include "markupcapture.h"
 #include "tableobj/ITablesCollection.h"
 
 // Reading table objects from the XML that they write (Tables, Table,
@@ -11,18 +11,18 @@
 // naming the element and the problem; it never hands back part of an object.
 namespace kaz::kazparser::tablereader {
 
-tableobj::IColumn* readColumn(const kaz::xml::Node& element);
-tableobj::IColumns* readColumns(const kaz::xml::Node& element);
-tableobj::ITable* readTable(const kaz::xml::Node& element);
-tableobj::ITables* readTables(const kaz::xml::Node& element);
+tableobj::IColumn* readColumn(const ContentNode& element);
+tableobj::IColumns* readColumns(const ContentNode& element);
+tableobj::ITable* readTable(const ContentNode& element);
+tableobj::ITables* readTables(const ContentNode& element);
 // A Tables element holding Tables elements.
-tableobj::ITablesCollection* readTablesCollection(const kaz::xml::Node& element);
+tableobj::ITablesCollection* readTablesCollection(const ContentNode& element);
 
 // Whether a Tables element holds lists of tables (Tables elements) rather
 // than tables; the two are written under the same name.
-bool holdsTablesLists(const kaz::xml::Node& tables);
+bool holdsTablesLists(const ContentNode& tables);
 // The first child that is an element, or null.
-kaz::xml::IXMLDOMNodePtr firstElementChild(const kaz::xml::Node& element);
+const ContentNode* firstElementChild(const ContentNode& element);
 
 // A scalar data value from its element's text: a Boolean is true exactly for
 // "true"; numbers by the parseDouble/parseInt rules (0 without a number);
@@ -31,6 +31,10 @@ tableobj::IElement* valueFromText(tableobj::IElement::ElementType type, const st
 // The text of a String data value: the character data that starts the
 // element's content (all of its pieces), or the markup of its first child
 // element; empty when it holds neither.
-std::wstring stringContent(const kaz::xml::Node& element);
+std::wstring stringContent(const ContentNode& element);
+// The data value of `type` that `element` holds: scalars from its text
+// (valueFromText, a String from stringContent), table objects from its
+// first child element; null when there is none.
+tableobj::IElement* readValue(tableobj::IElement::ElementType type, const ContentNode& element);
 
 }  // namespace kaz::kazparser::tablereader

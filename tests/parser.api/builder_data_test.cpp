@@ -142,6 +142,13 @@ TEST_F(BuilderDataTest, WrittenValuesReadBackEqualOnBothPaths) {
     }
 }
 
+TEST_F(BuilderDataTest, ContentUsingAPrefixDeclaredOutsideItReadsAsItStands) {
+    auto holder = build(L"<Holder xmlns:p=\"u\"><UseString><p:b k=\"1\"/></UseString></Holder>");
+    auto* node = onlyChild<IUseDataCfg>(holder);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(node->toXml(), L"<UseString>&lt;p:b k=\"1\"&gt;&lt;/p:b&gt;</UseString>");
+}
+
 TEST_F(BuilderDataTest, ValuesThatCannotBeReadEndInTheThreeLevelChain) {
     struct Case {
         const wchar_t* text;
