@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build needs, only those that are missing.
+# Installs the Debian packages the build needs, and any named as arguments,
+# only those that are missing.
 set -euo pipefail
-packages=(g++ cmake make pkg-config libxml2-dev libgtest-dev libgmock-dev libbenchmark-dev clang-format)
+packages=(g++ cmake make pkg-config libxml2-dev libgtest-dev libgmock-dev libbenchmark-dev clang-format "$@")
 missing=()
 for package in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" ||

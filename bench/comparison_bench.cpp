@@ -1,0 +1,226 @@
+// The library beside the bare parser: building, writing, copying and
+// deleting the trees of a large and a small configuration, with libxml2's
+// SAX2 parser (and pugixml, where installed) over the same bytes.
+// KAZBENCH_MB sets the size of the large configuration (default 20).
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "baselines.h"
+#include "configgen.h"
+#include "heapcount.h"
+#include "kazparser.h"
+
+#ifdef KAZBENCH_PUGIXML
+#include <pugixml.hpp>
+#include <sstream>
+#endif
+
+namespace {
+
+using kaz::kazparser::INodeCfg;
+using kaz::kazparser::KAZConfigFactory;
+using Tree = std::unique_ptr<INodeCfg>;
+
+struct Text {
+    std::wstring wide;
+    std::string utf8;
+};
+
+Text makeText(std::wstring wide) {
+    std::string utf8 = kazbench::utf8(wide);
+    return {std::move(wide), std::move(utf8)};
+}
+
+const Text& large() {
+    static const Text text = [] {
+        const char* megabytes = std::getenv("KAZBENCH_MB");
+        const double size = megabytes != nullptr ? std::atof(megabytes) : 20.0;
+        return makeText(kazbench::presentationGroup(static_cast<std::size_t>(size * 1e6)));
+    }();
+    return text;
+}
+
+const Text& small() {
+    static const Text text = makeText(kazbench::presentationElement());
+    return text;
+}
+
+Tree buildLarge() {
+    Tree tree(KAZConfigFactory::createPresentationGroupCfg(&large().wide, nullptr));
+    if (tree == nullptr) throw std::runtime_error("the large configuration does not load");
+    return tree;
+}
+
+const INodeCfg& largeTree() {
+    static const Tree tree = buildLarge();
+    return *tree;
+}
+
+void setBytes(benchmark::State& state, std::size_t bytes) {
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * static_cast<int64_t>(bytes));
+}
+
+void expect(benchmark::State& state, bool ok) {
+    if (!ok) state.SkipWithError("the text was refused");
+}
+
+void BM_Sax2Empty(benchmark::State& state) {
+    for (auto _ : state) expect(state, kazbench::parseWithEmptyCallbacks(large().utf8));
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_Sax2Empty)->Unit(benchmark::kMillisecond);
+
+void BM_Sax2Copying(benchmark::State& state) {
+    for (auto _ : state) expect(state, kazbench::parseWithCopyingCallbacks(large().utf8));
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_Sax2Copying)->Unit(benchmark::kMillisecond);
+
+void BM_Sax2CopyingSmall(benchmark::State& state) {
+    for (auto _ : state) expect(state, kazbench::parseWithCopyingCallbacks(small().utf8));
+}
+BENCHMARK(BM_Sax2CopyingSmall)->Unit(benchmark::kMicrosecond);
+
+#ifdef KAZBENCH_PUGIXML
+void BM_PugixmlLoad(benchmark::State& state) {
+    for (auto _ : state) {
+        pugi::xml_document document;
+        expect(state, document.load_buffer(large().utf8.data(), large().utf8.size()));
+    }
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_PugixmlLoad)->Unit(benchmark::kMillisecond);
+
+void BM_PugixmlSave(benchmark::State& state) {
+    pugi::xml_document document;
+    document.load_buffer(large().utf8.data(), large().utf8.size());
+    std::size_t written = 0;
+    for (auto _ : state) {
+        std::ostringstream out;
+        document.save(out, "", pugi::format_raw);
+        written = out.str().size();
+    }
+    setBytes(state, written);
+}
+BENCHMARK(BM_PugixmlSave)->Unit(benchmark::kMillisecond);
+#endif
+
+void BM_BuildLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        Tree tree = buildLarge();
+        state.PauseTiming();
+        tree.reset();
+        state.ResumeTiming();
+    }
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_BuildLarge)->Unit(benchmark::kMillisecond);
+
+void BM_BuildGenericLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        Tree tree(KAZConfigFactory::createXNodeCfg(&large().wide, nullptr));
+        expect(state, tree != nullptr);
+        state.PauseTiming();
+        tree.reset();
+        state.ResumeTiming();
+    }
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_BuildGenericLarge)->Unit(benchmark::kMillisecond);
+
+// A new call each time, as a host loading many small configurations makes.
+void BM_BuildSmall(benchmark::State& state) {
+    for (auto _ : state) {
+        Tree tree(KAZConfigFactory::createPresentationElementCfg(&small().wide, nullptr));
+        expect(state, tree != nullptr);
+    }
+}
+BENCHMARK(BM_BuildSmall)->Unit(benchmark::kMicrosecond);
+
+// The UTF-8 size of the large tree's text.
+std::size_t writtenSize() {
+    static const std::size_t size = kazbench::utf8(largeTree().toXml()).size();
+    return size;
+}
+
+// Each run writes a fresh copy, whose text buffer starts empty.
+void BM_ToXmlLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        Tree copy(largeTree().clone());
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(copy->toXml().size());
+        state.PauseTiming();
+        copy.reset();
+        state.ResumeTiming();
+    }
+    setBytes(state, writtenSize());
+}
+BENCHMARK(BM_ToXmlLarge)->Unit(benchmark::kMillisecond);
+
+// Pieces handed to a writer that only counts them.
+class CountingWriter final : public tableobj::IXmlWriter {
+public:
+    bool write(std::wstring piece) override {
+        characters += piece.size();
+        return true;
+    }
+    std::size_t characters = 0;
+};
+
+void BM_WriteXmlLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        CountingWriter writer;
+        largeTree().writeXml(writer);
+        benchmark::DoNotOptimize(writer.characters);
+    }
+    setBytes(state, writtenSize());
+}
+BENCHMARK(BM_WriteXmlLarge)->Unit(benchmark::kMillisecond);
+
+void BM_CloneLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        Tree copy(largeTree().clone());
+        state.PauseTiming();
+        copy.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_CloneLarge)->Unit(benchmark::kMillisecond);
+
+void BM_DeleteLarge(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        Tree tree = buildLarge();
+        state.ResumeTiming();
+        tree.reset();
+    }
+}
+BENCHMARK(BM_DeleteLarge)->Unit(benchmark::kMillisecond);
+
+// Heap kept by the tree and the most in use while it was built, as
+// multiples of the input's UTF-8 size (the input string itself excluded).
+void BM_HeapOfLargeTree(benchmark::State& state) {
+    double kept = 0, peak = 0;
+    for (auto _ : state) {
+        const std::size_t before = kazbench::heap::live();
+        kazbench::heap::resetPeak();
+        Tree tree = buildLarge();
+        const auto input = static_cast<double>(large().utf8.size());
+        kept = static_cast<double>(kazbench::heap::live() - before) / input;
+        peak = static_cast<double>(kazbench::heap::peak() - before) / input;
+        state.PauseTiming();
+        tree.reset();
+        state.ResumeTiming();
+    }
+    state.counters["kept"] = kept;
+    state.counters["peak"] = peak;
+}
+BENCHMARK(BM_HeapOfLargeTree)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+}  // namespace
