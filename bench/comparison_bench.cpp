@@ -7,6 +7,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -208,12 +209,12 @@ BENCHMARK(BM_DeleteLarge)->Unit(benchmark::kMillisecond);
 void BM_HeapOfLargeTree(benchmark::State& state) {
     double kept = 0, peak = 0;
     for (auto _ : state) {
-        const std::size_t before = kazbench::heap::live();
-        kazbench::heap::resetPeak();
+        std::optional<kazbench::heap::Counting> heap(std::in_place);
         Tree tree = buildLarge();
         const auto input = static_cast<double>(large().utf8.size());
-        kept = static_cast<double>(kazbench::heap::live() - before) / input;
-        peak = static_cast<double>(kazbench::heap::peak() - before) / input;
+        kept = static_cast<double>(heap->live()) / input;
+        peak = static_cast<double>(heap->peak()) / input;
+        heap.reset();
         state.PauseTiming();
         tree.reset();
         state.ResumeTiming();

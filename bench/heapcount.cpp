@@ -15,20 +15,26 @@ void __libc_free(void* pointer);
 
 namespace {
 
-std::atomic<std::size_t> liveBytes{0};
-std::atomic<std::size_t> peakBytes{0};
+std::atomic<bool> counting{false};
+std::atomic<long long> liveBytes{0};
+std::atomic<long long> peakBytes{0};
+
+long long sizeOf(void* pointer) {
+    return static_cast<long long>(malloc_usable_size(pointer));
+}
 
 void* counted(void* pointer) {
-    if (pointer == nullptr) return nullptr;
-    const std::size_t now = liveBytes += malloc_usable_size(pointer);
-    std::size_t peak = peakBytes.load(std::memory_order_relaxed);
+    if (pointer == nullptr || !counting.load(std::memory_order_relaxed)) return pointer;
+    const long long now = liveBytes += sizeOf(pointer);
+    long long peak = peakBytes.load(std::memory_order_relaxed);
     while (now > peak && !peakBytes.compare_exchange_weak(peak, now)) {
     }
     return pointer;
 }
 
 void uncount(void* pointer) {
-    if (pointer != nullptr) liveBytes -= malloc_usable_size(pointer);
+    if (pointer != nullptr && counting.load(std::memory_order_relaxed))
+        liveBytes -= sizeOf(pointer);
 }
 
 }  // namespace
@@ -77,16 +83,22 @@ void free(void* pointer) {
 
 namespace kazbench::heap {
 
-std::size_t live() {
+Counting::Counting() {
+    liveBytes = 0;
+    peakBytes = 0;
+    counting = true;
+}
+
+Counting::~Counting() {
+    counting = false;
+}
+
+long long Counting::live() const {
     return liveBytes.load();
 }
 
-std::size_t peak() {
+long long Counting::peak() const {
     return peakBytes.load();
-}
-
-void resetPeak() {
-    peakBytes.store(liveBytes.load());
 }
 
 }  // namespace kazbench::heap
