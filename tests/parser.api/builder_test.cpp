@@ -1,8 +1,6 @@
-// The tree builder behind createNodeCfg: dispatch, error chain, shown
-// platform errors with partial results, security limits, the root-directory
-// macro, and freeing on every path.
-
-#include <new>
+// The tree builders behind createNodeCfg and createXNodeCfg: dispatch, error
+// chains, shown platform errors with partial results, security limits, the
+// root-directory macro, and freeing on every path.
 
 #include "environmentadapter/IEnvironmentAdapter.h"
 #include "testsupport.h"
@@ -25,11 +23,14 @@ std::wstring nested(int depth) {
 }
 
 class BuilderTest : public LeakCheckedTest {};
+using XParserTest = BuilderTest;
 
-TEST_F(BuilderTest, NullOrEmptyTextGivesNull) {
-    EXPECT_EQ(KAZConfigFactory::createNodeCfg(nullptr, nullptr), nullptr);
+TEST_F(BuilderTest, NullOrEmptyTextGivesNullInBothBuilders) {
     const std::wstring empty;
-    EXPECT_EQ(KAZConfigFactory::createNodeCfg(&empty, nullptr), nullptr);
+    for (const std::wstring* text : {static_cast<const std::wstring*>(nullptr), &empty}) {
+        EXPECT_EQ(KAZConfigFactory::createNodeCfg(text, nullptr), nullptr);
+        EXPECT_EQ(KAZConfigFactory::createXNodeCfg(text, nullptr), nullptr);
+    }
 }
 
 TEST_F(BuilderTest, ElementsOfNoKnownKindBecomeGenericNodes) {
@@ -107,8 +108,6 @@ TEST_F(BuilderTest, RefusedTextsAreShownNotThrown) {
     const Case cases[] = {
         {L"<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><a>&e;</a>",
          L"document type declarations are not allowed"},
-        {nested(257), L"elements nested deeper than 256 levels"},
-        {nested(10000), L"elements nested deeper than 256 levels"},
         {L"<a><x:b/></a>", L"Namespace prefix x on b is not defined"},
         {L"<?xml version=\"1.1\"?><a/>", L"Unsupported version '1.1'"},
     };
@@ -196,15 +195,6 @@ TEST_F(BuilderTest, NodesReadFromTextKnowWhereTheyStart) {
     EXPECT_EQ(sourceLocation(nullptr), std::nullopt);
 }
 
-TEST_F(BuilderTest, KindNamesFollowTheNodeTypes) {
-    using kaz::kazparser::kindName;
-    EXPECT_EQ(kindName(INodeCfg::Param), L"Param");
-    EXPECT_EQ(kindName(INodeCfg::UseData), L"UseData");
-    EXPECT_EQ(kindName(INodeCfg::UseRefData), L"UseRefData");
-    EXPECT_EQ(kindName(INodeCfg::SampleRefResult), L"SampleRefResult");
-    EXPECT_EQ(kindName(static_cast<INodeCfg::NodeType>(31)), L"");
-}
-
 TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
     const std::wstring texts[] = {L"<r a=\"1\"><b><c/></b><d/></r>", L"<r><Tables/></r>",
                                   L"<r><b></r>"};
@@ -213,6 +203,33 @@ TEST_F(BuilderTest, FailedAllocationsAtAnyPointFreeEverything) {
         expectNothingLeaksUnderAllocationFailures(
             [&] { NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr)); });
     }
+}
+
+TEST_F(XParserTest, EveryElementBecomesGenericWithItsTextAndAttributes) {
+    const std::wstring text =
+        L"<ParamSets a=\"1\">\n  <ParamSet>x<![CDATA[<y>]]>z</ParamSet>\n  <Tables/>\n</ParamSets>";
+    auto parent = NodePtr<IXNodeCfg>(KAZConfigFactory::createXNodeCfg(&text, nullptr));
+    NodePtr<IXNodeCfg> root(KAZConfigFactory::createXNodeCfg(&text, parent.get()));
+    ASSERT_NE(root, nullptr);
+    EXPECT_EQ(root->getParent(), parent.get());
+    EXPECT_EQ(root->getNodeType(), INodeCfg::XNode);
+    EXPECT_EQ(root->getText(), L"") << "indentation between child elements is not content";
+    auto* set = dynamic_cast<IXNodeCfg*>(root->getChild(0));
+    ASSERT_NE(set, nullptr);
+    EXPECT_EQ(set->getText(), L"x<y>z");
+    EXPECT_EQ(root->toXml(),
+              L"<ParamSets a=\"1\"><ParamSet>x&lt;y&gt;z</ParamSet><Tables></Tables></ParamSets>");
+}
+
+TEST_F(XParserTest, MalformedTextRaisesTheWrappedSyntaxError) {
+    const std::wstring text = L"<a>\n<b></a>";
+    const auto chain = thrownChain([&] { KAZConfigFactory::createXNodeCfg(&text, nullptr); });
+    ASSERT_EQ(chain.size(), 2u);
+    EXPECT_EQ(chain[0].kind, IKAZException::Parsing);
+    EXPECT_EQ(chain[0].message, L"Configure invalid at 'createXNodeCfg'");
+    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::KAZConfigFactory::createXNodeCfg");
+    EXPECT_EQ(chain[1].message.rfind(L"Syntax error at :'line 2, column ", 0), 0u)
+        << testing::PrintToString(chain[1].message);
 }
 
 }  // namespace

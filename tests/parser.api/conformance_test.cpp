@@ -2,7 +2,6 @@
 // tree builder: each one is refused, but for the few the reader cannot
 // tell from well-formed ones.
 
-#include <cstdlib>
 #include <cwctype>
 #include <filesystem>
 #include <fstream>
@@ -10,7 +9,6 @@
 #include <optional>
 #include <set>
 
-#include "ioutils/IOUtils.h"
 #include "ioutils/TextCodec.h"
 #include "testsupport.h"
 
@@ -19,15 +17,6 @@ namespace {
 using namespace kaztest;
 using kaz::kazparser::KAZConfigFactory;
 namespace fs = std::filesystem;
-
-fs::path suiteDirectory() {
-    const char* root = std::getenv("KAZ_TEST_DATA");
-    return (root != nullptr ? fs::path(root) : fs::current_path()) / ".." / "shared" / "xmlconf";
-}
-
-std::wstring readFile(const fs::path& path) {
-    return ioutils::IOUtilsFactory::createIOUtils()->readTextFile(path.wstring());
-}
 
 struct Document {
     std::wstring id;
@@ -94,7 +83,7 @@ bool accepted(const std::wstring& text) {
 class ConformanceTest : public LeakCheckedTest {};
 
 TEST_F(ConformanceTest, NotWellFormedDocumentsWithoutDoctypeAreRefused) {
-    const fs::path suite = suiteDirectory();
+    const fs::path suite = sourceDirectory() / ".." / "shared" / "xmlconf";
     if (!fs::is_directory(suite)) GTEST_SKIP() << "conformance suite not present at " << suite;
     // Their declared encoding contradicts their bytes, which cannot show once
     // the text is a wide string; or they are well-formed under the fifth

@@ -16,9 +16,9 @@ using kaz::kazparser::KAZConfigFactory;
 using tableobj::IElement;
 using tableobj::TableobjFactory;
 
-NodePtr<IUseDataCfg> emptyData(INodeCfg* parent = nullptr) {
+NodePtr<IUseDataCfg> emptyData() {
     return NodePtr<IUseDataCfg>(
-        KAZConfigFactory::createUseDataCfg(IElement::NoValue, nullptr, parent));
+        KAZConfigFactory::createUseDataCfg(IElement::NoValue, nullptr, nullptr));
 }
 NodePtr<IUseRefDataCfg> emptyReference() {
     return NodePtr<IUseRefDataCfg>(
@@ -30,23 +30,17 @@ NodePtr<ILanguageStringCfg> emptyLanguageString() {
 
 class DataNodeTest : public LeakCheckedTest {};
 
-TEST_F(DataNodeTest, KindsAnswerTheirTypesAndTakeNoChild) {
+TEST_F(DataNodeTest, KindsAnswerTheirDataTypesAndTakeNoChild) {
     auto data = emptyData();
     auto reference = emptyReference();
     auto text = emptyLanguageString();
-    EXPECT_EQ(data->getNodeType(), INodeCfg::UseData);
-    EXPECT_EQ(text->getNodeType(), INodeCfg::UseData);
-    EXPECT_EQ(reference->getNodeType(), INodeCfg::UseRefData);
     EXPECT_EQ(text->getDataType(), IElement::NoValue);
     text->setStringID(L"IDS_ROAD");
     EXPECT_EQ(text->getDataType(), IElement::String);
     EXPECT_EQ(reference->getDataType(), IElement::NoValue);
     auto child = emptyData();
-    const auto chain = thrownChain([&] { data->setChild(child.get()); });
-    ASSERT_EQ(chain.size(), 1u);
-    EXPECT_EQ(chain[0].kind, IKAZException::InvalidData);
-    EXPECT_EQ(chain[0].message, L"Do not use this method");
-    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::UseDataCfgImpl::setChild");
+    expectError([&] { data->setChild(child.get()); }, IKAZException::InvalidData,
+                L"Do not use this method", L"UseDataCfgImpl::setChild");
     EXPECT_FALSE(reference->setChild(child.get()));
     EXPECT_FALSE(text->setChild(child.get()));
     EXPECT_EQ(child->getParent(), nullptr);
@@ -76,10 +70,6 @@ TEST_F(DataNodeTest, StoredValuesNameTheElementWhereTheirTypeHasAName) {
         node->setValue(c.make());
         EXPECT_EQ(node->getDataType(), node->getValue()->getElementType());
         EXPECT_EQ(node->toXml(), c.written);
-        std::wstring streamed;
-        tableobj::StringXmlWriter out(streamed);
-        EXPECT_TRUE(node->writeXml(out));
-        EXPECT_EQ(streamed, c.written);
     }
 }
 
@@ -97,10 +87,8 @@ TEST_F(DataNodeTest, ValuesAreOwnedUntilReplacedOrReleased) {
     EXPECT_EQ(MemObject::liveCount(), empty + 1) << "each replaced value was freed";
     IElement* held = node->getValue();
     for (IElement* refused : {static_cast<IElement*>(nullptr), held}) {
-        const auto chain = thrownChain([&] { node->replaceValue(refused); });
-        ASSERT_EQ(chain.size(), 1u);
-        EXPECT_EQ(chain[0].message, L"Invalid argument");
-        EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::UseDataCfgImpl::replaceValue");
+        expectError([&] { node->replaceValue(refused); }, IKAZException::InvalidData,
+                    L"Invalid argument", L"UseDataCfgImpl::replaceValue");
         EXPECT_EQ(node->getValue(), held);
     }
     std::unique_ptr<IElement> previous(node->replaceValue(TableobjFactory::createInt(1)));
@@ -114,19 +102,6 @@ TEST_F(DataNodeTest, ValuesAreOwnedUntilReplacedOrReleased) {
     node->setValue(nullptr);
     EXPECT_EQ(MemObject::liveCount(), empty + 2) << "only the two handed back live";
     EXPECT_EQ(node->getName(), L"UseBoolean");
-}
-
-TEST_F(DataNodeTest, ClonesCopyTheValue) {
-    auto holder = emptyData();
-    auto data = emptyData(holder.get());
-    tableobj::ITable* table = TableobjFactory::createTable(L"Roads");
-    table->setProperty(L"unit", TableobjFactory::createString(L"m"));
-    data->setValue(table);
-    NodePtr<IUseDataCfg> copy(dynamic_cast<IUseDataCfg*>(data->clone()));
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->getParent(), holder.get());
-    ASSERT_NE(copy->getValue(), data->getValue());
-    EXPECT_TRUE(copy->getValue()->equals(*data->getValue()));
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
-// Data values and references read through the document: names, the forms,
-// the table objects' reading errors, createUseRefDataCfg. Values per type
-// are checked against the builder in builder_data_test.cpp.
+// Data values and references read by their factory forms: names, the table
+// objects' reading errors, the markup a reference holds. Values per type are
+// checked against the builder in builder_data_test.cpp.
 
-#include "kazxml/Result.h"
 #include "tableobj/TableobjFactory.h"
 #include "testsupport.h"
 
@@ -45,39 +44,13 @@ TEST_F(DataValueTest, NodesKeepTheDocumentElementNameUnlessTheTypeNamesIt) {
         SCOPED_TRACE(testing::PrintToString(std::wstring(c.text)));
         EXPECT_EQ(readData(c.type, c.text)->toXml(), c.written);
     }
+    // Malformed text gives the empty node.
     auto holder = readData(IElement::Integer, L"<h>1</h>");
-    const std::wstring empty;
-    const std::wstring malformed = L"<UseDouble>1";
-    for (const std::wstring* text :
-         {static_cast<const std::wstring*>(nullptr), &empty, &malformed}) {
-        NodePtr<IUseDataCfg> data(
-            KAZConfigFactory::createUseDataCfg(IElement::Double, text, holder.get()));
-        NodePtr<IUseRefDataCfg> reference(
-            KAZConfigFactory::createUseRefDataCfg(IElement::Double, text, holder.get()));
-        EXPECT_EQ(data->toXml(), L"<UseData></UseData>");
-        EXPECT_EQ(data->getParent(), holder.get());
-        EXPECT_EQ(reference->toXml(), L"<UseData></UseData>");
-        EXPECT_EQ(reference->getParent(), holder.get());
-    }
-}
-
-TEST_F(DataValueTest, DocumentAndNodeFormsReadTheirMarkup) {
-    const std::wstring text = L"<Held><UseDouble>2.5</UseDouble></Held>";
-    auto doc = kaz::xml::Document::create();
-    ASSERT_TRUE(doc->loadXML(text));
-    const auto element = doc->selectSingleNode(L"//UseDouble");
-    NodePtr<IUseDataCfg> fromNode(
-        KAZConfigFactory::createUseDataCfg(IElement::Double, element, nullptr));
-    EXPECT_EQ(fromNode->toXml(), L"<UseDouble>2.5</UseDouble>");
-    NodePtr<IUseRefDataCfg> fromDoc(
-        KAZConfigFactory::createUseRefDataCfg(IElement::Double, doc, nullptr));
-    EXPECT_EQ(fromDoc->toXml(), L"<Held><UseDouble>2.5</UseDouble></Held>");
-    try {
-        KAZConfigFactory::createUseDataCfg(IElement::Double, kaz::xml::IXMLDOMNodePtr(), nullptr);
-        ADD_FAILURE() << "a null node was read";
-    } catch (const kaz::xml::PlatformError& error) {
-        EXPECT_EQ(error.code(), kaz::xml::E_POINTER);
-    }
+    EXPECT_EQ(readData(IElement::Double, L"<UseDouble>1", holder.get())->toXml(),
+              L"<UseData></UseData>");
+    auto reference = readReference(IElement::Double, L"<UseDouble>1", holder.get());
+    EXPECT_EQ(reference->toXml(), L"<UseData></UseData>");
+    EXPECT_EQ(reference->getParent(), holder.get());
 }
 
 TEST_F(DataValueTest, TablesThatCannotBeReadRaiseWhyAndFreeWhatWasRead) {

@@ -1,5 +1,5 @@
 // Feature lists: names taken once, the name index after every change, and
-// features that keep their whole content as text.
+// features that keep their whole content as text; extra values found by name.
 
 #include <tuple>
 
@@ -8,6 +8,7 @@
 namespace {
 
 using namespace kaztest;
+using kaz::kazparser::IExtraValuesConfigCfg;
 using kaz::kazparser::IFeatureCfg;
 using kaz::kazparser::IFeaturesCfg;
 using kaz::kazparser::KAZConfigFactory;
@@ -26,6 +27,7 @@ IFeatureCfg* newFeature(const std::wstring& name) {
 const std::wstring kABC = L"<Features><A>1</A><B>2</B><C>3</C></Features>";
 
 class FeaturesTest : public LeakCheckedTest {};
+using ExtraValuesTest = FeaturesTest;
 
 TEST_F(FeaturesTest, ANameIsTakenOnceAndRefusedSilently) {
     auto list = readList(L"<Features><A>first</A><A>second</A><B/></Features>");
@@ -48,10 +50,8 @@ TEST_F(FeaturesTest, ANameIsTakenOnceAndRefusedSilently) {
 TEST_F(FeaturesTest, TheIndexFollowsEveryChangeOfPositions) {
     auto list = readList(kABC);
     NodePtr<> removed(list->remove(0u));
-    const auto chain = thrownChain([&] { (*list)[L"A"]; });
-    ASSERT_EQ(chain.size(), 1u);
-    EXPECT_EQ(chain[0].message, L"A is not the name of child object");
-    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::FeaturesCfgImpl::operator []");
+    expectError([&] { (*list)[L"A"]; }, IKAZException::OutOfRange,
+                L"A is not the name of child object", L"FeaturesCfgImpl::operator []");
     EXPECT_EQ((*list)[L"C"], list->getChild(1));
     IFeatureCfg* d = newFeature(L"D");
     list->insert(d, 1);
@@ -90,13 +90,27 @@ TEST_F(FeaturesTest, FeaturesKeepTheirWholeContentAsText) {
     EXPECT_EQ(empty->toXml(), L"<Feature></Feature>");
 }
 
+// The refused duplicate too.
 TEST_F(FeaturesTest, FailedAllocationsWhileReadingFeaturesFreeEverything) {
     const std::wstring text =
-        L"<Holder><Features><A k=\"v\">x<n/></A><A/><B>y</B></Features>"
-        L"<ExtraValuesConfig><XValue name=\"w\"><UseDouble>1</UseDouble></XValue>"
-        L"</ExtraValuesConfig></Holder>";
+        L"<Holder><Features><A k=\"v\">x<n/></A><A/><B>y</B></Features></Holder>";
     expectNothingLeaksUnderAllocationFailures(
         [&] { NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr)); });
+}
+
+TEST_F(ExtraValuesTest, ValuesRoundTripAndAreFoundByTheirNames) {
+    const std::wstring text =
+        L"<ExtraValuesConfig><XValue name=\"w\" systemValue=\"true\"><UseDouble>2.5</UseDouble>"
+        L"</XValue><XValue name=\"h\"></XValue><XValue name=\"w\" desc=\"2\"></XValue>"
+        L"</ExtraValuesConfig>";
+    NodePtr<IExtraValuesConfigCfg> values(
+        KAZConfigFactory::createExtraValuesConfigCfg(&text, nullptr));
+    NodePtr<IExtraValuesConfigCfg> copy(dynamic_cast<IExtraValuesConfigCfg*>(values->clone()));
+    EXPECT_EQ(copy->toXml(), text);
+    EXPECT_EQ(copy->getXValue(L"w"), copy->getXValue(2u)) << "the later of two names";
+    EXPECT_FALSE(copy->hasXValue(L"XValue")) << "names, not tags";
+    expectError([&] { copy->getXValue(L"XValue"); }, IKAZException::OutOfRange,
+                L"XValue is not the name of child object", L"ExtraValuesConfigCfgImpl::getXValue");
 }
 
 }  // namespace

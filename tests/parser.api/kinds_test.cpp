@@ -1,8 +1,12 @@
 // What every node kind does alike: one suite that each kind passes. A kind
-// is listed once, with its factory form; the list must name every node type.
+// is listed once, with its factory forms; the list must name every node type.
 
+#include <functional>
 #include <set>
+#include <tuple>
 
+#include "kazxml/PlatformError.h"
+#include "kazxml/Result.h"
 #include "testsupport.h"
 
 namespace {
@@ -11,12 +15,19 @@ using namespace kaztest;
 using kaz::kazparser::KAZConfigFactory;
 using tableobj::IElement;
 
+using kaz::xml::IXMLDOMDocument2Ptr;
+using kaz::xml::IXMLDOMNodePtr;
 using Create = INodeCfg* (*)(const std::wstring* text, INodeCfg* parent);
+using FromDocument = INodeCfg* (*)(IXMLDOMDocument2Ptr doc, INodeCfg* parent);
+using FromNode = INodeCfg* (*)(IXMLDOMNodePtr node, INodeCfg* parent);
 
 struct Kind {
     INodeCfg::NodeType type;
     const char* name;
     Create create;  // null text: the empty node of the kind
+    // The document and node forms; null where the kind has the text form only.
+    FromDocument fromDocument;
+    FromNode fromNode;
     // A text of the kind whose node holds every kind of child it takes.
     const wchar_t* full;
     // The empty node's text reads back to it; a collector without a name
@@ -24,24 +35,33 @@ struct Kind {
     bool emptyReadsBack = true;
 };
 
-#define KAZ_KIND(type, create, ...)                                       \
-    Kind {                                                                \
-        INodeCfg::type, #type,                                            \
-            [](const std::wstring* text, INodeCfg* parent) -> INodeCfg* { \
-                return KAZConfigFactory::create(text, parent);            \
-            },                                                            \
-            __VA_ARGS__                                                   \
+#define KAZ_FORM(create, Source)                         \
+    [](Source source, INodeCfg* parent) -> INodeCfg* {   \
+        return KAZConfigFactory::create(source, parent); \
+    }
+#define KAZ_KIND(type, create, ...)                                                              \
+    Kind {                                                                                       \
+        INodeCfg::type, #type, KAZ_FORM(create, const std::wstring*),                            \
+            KAZ_FORM(create, IXMLDOMDocument2Ptr), KAZ_FORM(create, IXMLDOMNodePtr), __VA_ARGS__ \
+    }
+#define KAZ_TEXT_KIND(type, create, ...)                                                \
+    Kind {                                                                              \
+        INodeCfg::type, #type, KAZ_FORM(create, const std::wstring*), nullptr, nullptr, \
+            __VA_ARGS__                                                                 \
     }
 
-INodeCfg* createDouble(const std::wstring* text, INodeCfg* parent) {
-    return KAZConfigFactory::createUseDataCfg(IElement::Double, text, parent);
+template <class Source>
+INodeCfg* readDouble(Source source, INodeCfg* parent) {
+    return KAZConfigFactory::createUseDataCfg(IElement::Double, source, parent);
 }
-INodeCfg* createReference(const std::wstring* text, INodeCfg* parent) {
-    return KAZConfigFactory::createUseRefDataCfg(IElement::String, text, parent);
+template <class Source>
+INodeCfg* readReference(Source source, INodeCfg* parent) {
+    return KAZConfigFactory::createUseRefDataCfg(IElement::String, source, parent);
 }
 INodeCfg* createGeneric(const std::wstring* text, INodeCfg* parent) {
-    static const std::wstring empty = L"<XNode/>";  // the generic form gives null for no text
-    return KAZConfigFactory::createXNodeCfg(text != nullptr ? text : &empty, parent);
+    static const std::wstring empty = L"<XNode/>";  // the generic form gives null for none
+    return KAZConfigFactory::createXNodeCfg(text != nullptr && !text->empty() ? text : &empty,
+                                            parent);
 }
 
 const wchar_t* const kParamSets =
@@ -79,12 +99,16 @@ const Kind kKinds[] = {
     KAZ_KIND(UseDataModifiers, createUseDataModifiersCfg,
              L"<UseDataModifiers><Sort/><Filter/></UseDataModifiers>"),
     KAZ_KIND(XValue, createXValueCfg, L"<XValue name=\"x\"><UseString>s</UseString></XValue>"),
-    Kind{INodeCfg::UseData, "UseData", createDouble, L"<UseDouble>2.5</UseDouble>", false},
+    Kind{INodeCfg::UseData, "UseData", readDouble<const std::wstring*>,
+         readDouble<IXMLDOMDocument2Ptr>, readDouble<IXMLDOMNodePtr>, L"<UseDouble>2.5</UseDouble>",
+         false},
     KAZ_KIND(UseExpression, createUseExpressionCfg, L"<UseExpression>a &lt; b</UseExpression>"),
     KAZ_KIND(UseEngine, createUseEngineCfg,
              L"<UseEngine><UseDataCollector><Roads/></UseDataCollector><UseDataModifiers><Sort/>"
              L"</UseDataModifiers></UseEngine>"),
-    Kind{INodeCfg::UseRefData, "UseRefData", createReference, L"<UseData>Lane.Width</UseData>"},
+    Kind{INodeCfg::UseRefData, "UseRefData", readReference<const std::wstring*>,
+         readReference<IXMLDOMDocument2Ptr>, readReference<IXMLDOMNodePtr>,
+         L"<UseData>Lane.Width</UseData>"},
     KAZ_KIND(SelectTables, createSelectTablesCfg,
              L"<SelectTables mode=\"m\"><Table name=\"T\"/></SelectTables>"),
     KAZ_KIND(InputConfig, createInputConfigCfg,
@@ -104,17 +128,21 @@ const Kind kKinds[] = {
              L"<PresentationGroup name=\"G\"><Features><A/></Features><ExtraValuesConfig/>"
              L"<PresentationElements><UseFixedPresentationElement elemID=\"a\"/>"
              L"</PresentationElements></PresentationGroup>"),
-    Kind{INodeCfg::XNode, "XNode", createGeneric, L"<R a=\"1\">t<b/><c>d</c></R>"},
-    KAZ_KIND(ExtraValuesConfig, createExtraValuesConfigCfg,
-             L"<ExtraValuesConfig><XValue name=\"a\"/><XValue name=\"b\"/></ExtraValuesConfig>"),
-    KAZ_KIND(SampleResults, createSampleResultsCfg,
-             L"<SampleResults name=\"r\"><SampleFixedResult name=\"a\"><UseInteger>1</UseInteger>"
-             L"</SampleFixedResult><SampleRefResult name=\"b\"/></SampleResults>"),
-    KAZ_KIND(SampleFixedResult, createSampleFixedResultCfg,
-             L"<SampleFixedResult name=\"a\"><UseInteger>1</UseInteger></SampleFixedResult>"),
-    KAZ_KIND(SampleRefResult, createSampleRefResultCfg,
-             L"<SampleRefResult name=\"a\" refData=\"t\"/>"),
-    KAZ_KIND(UseData, createLanguageStringCfg, L"<UseLanguageString>IDS_A</UseLanguageString>"),
+    Kind{INodeCfg::XNode, "XNode", createGeneric, nullptr, nullptr,
+         L"<R a=\"1\">t<b/><c>d</c></R>"},
+    KAZ_TEXT_KIND(
+        ExtraValuesConfig, createExtraValuesConfigCfg,
+        L"<ExtraValuesConfig><XValue name=\"a\"/><XValue name=\"b\"/></ExtraValuesConfig>"),
+    KAZ_TEXT_KIND(
+        SampleResults, createSampleResultsCfg,
+        L"<SampleResults name=\"r\"><SampleFixedResult name=\"a\"><UseInteger>1</UseInteger>"
+        L"</SampleFixedResult><SampleRefResult name=\"b\"/></SampleResults>"),
+    KAZ_TEXT_KIND(SampleFixedResult, createSampleFixedResultCfg,
+                  L"<SampleFixedResult name=\"a\"><UseInteger>1</UseInteger></SampleFixedResult>"),
+    KAZ_TEXT_KIND(SampleRefResult, createSampleRefResultCfg,
+                  L"<SampleRefResult name=\"a\" refData=\"t\"/>"),
+    KAZ_TEXT_KIND(UseData, createLanguageStringCfg,
+                  L"<UseLanguageString>IDS_A</UseLanguageString>"),
 };
 
 class KindsTest : public LeakCheckedTest, public testing::WithParamInterface<Kind> {
@@ -125,23 +153,31 @@ protected:
     }
 };
 
-TEST(KindsListTest, NamesEveryNodeType) {
+TEST(KindsListTest, NamesEveryNodeTypeUnderItsKindName) {
     std::set<int> types;
-    for (const Kind& kind : kKinds) types.insert(kind.type);
+    for (const Kind& kind : kKinds) {
+        types.insert(kind.type);
+        const std::string name = kind.name;
+        EXPECT_EQ(kaz::kazparser::kindName(kind.type), std::wstring(name.begin(), name.end()));
+    }
     EXPECT_EQ(types.size(), INodeCfg::SampleRefResult + 1u);
+    EXPECT_EQ(kaz::kazparser::kindName(static_cast<INodeCfg::NodeType>(types.size())), L"");
 }
 
-TEST_P(KindsTest, EmptyNodeWritesATextThatReadsBackToIt) {
+TEST_P(KindsTest, NoOrEmptyTextGivesAnEmptyNodeThatReadsBack) {
     auto holder = NodePtr<>(createGeneric(nullptr, nullptr));
-    NodePtr<> empty(GetParam().create(nullptr, holder.get()));
-    ASSERT_NE(empty, nullptr);
-    EXPECT_EQ(empty->getNodeType(), GetParam().type);
-    EXPECT_EQ(empty->getParent(), holder.get());
-    const std::wstring written = empty->toXml();
-    if (!GetParam().emptyReadsBack) return;
-    NodePtr<> read(GetParam().create(&written, nullptr));
-    ASSERT_NE(read, nullptr) << written;
-    EXPECT_EQ(read->toXml(), written);
+    const std::wstring none;
+    for (const std::wstring* text : {static_cast<const std::wstring*>(nullptr), &none}) {
+        NodePtr<> empty(GetParam().create(text, holder.get()));
+        ASSERT_NE(empty, nullptr);
+        EXPECT_EQ(empty->getNodeType(), GetParam().type);
+        EXPECT_EQ(empty->getParent(), holder.get());
+        const std::wstring written = empty->toXml();
+        if (!GetParam().emptyReadsBack) continue;
+        NodePtr<> read(GetParam().create(&written, nullptr));
+        ASSERT_NE(read, nullptr) << written;
+        EXPECT_EQ(read->toXml(), written);
+    }
 }
 
 TEST_P(KindsTest, FullNodeReadsWritesAndReadsBackTheSame) {
@@ -152,6 +188,9 @@ TEST_P(KindsTest, FullNodeReadsWritesAndReadsBackTheSame) {
     NodePtr<> again(GetParam().create(&written, nullptr));
     ASSERT_NE(again, nullptr) << written;
     EXPECT_EQ(again->toXml(), written);
+    std::wstring streamed;
+    tableobj::StringXmlWriter out(streamed);
+    EXPECT_TRUE(node->writeXml(out));
 }
 
 TEST_P(KindsTest, CloneIsDeepWithChildrenReparentedAndTheSourceParent) {
@@ -209,7 +248,9 @@ TEST_P(KindsTest, FailedAllocationsWhileReadingCloningAndWritingFreeEverything) 
 
 using CollectionsTest = LeakCheckedTest;
 
-TEST_F(CollectionsTest, AnItemReplacedByItselfStaysOwnedByTheCollection) {
+// Calls `check` with the full node of every collection kind.
+void forEachCollection(
+    const std::function<void(const Kind&, INodeCfg&, kaz::kazparser::INodeCfgCollection&)>& check) {
     int collections = 0;
     for (const Kind& kind : kKinds) {
         const std::wstring text = kind.full;
@@ -218,13 +259,60 @@ TEST_F(CollectionsTest, AnItemReplacedByItselfStaysOwnedByTheCollection) {
         if (list == nullptr) continue;
         SCOPED_TRACE(kind.name);
         ++collections;
-        const std::wstring before = node->toXml();
-        INodeCfg* item = list->getChild(0);
-        EXPECT_EQ(list->replace(item, 0), nullptr);
-        EXPECT_EQ(item->getParent(), node.get());
-        EXPECT_EQ(node->toXml(), before);
+        check(kind, *node, *list);
     }
     EXPECT_EQ(collections, 9);
+}
+
+TEST_F(CollectionsTest, AnItemReplacedByItselfStaysOwnedByTheCollection) {
+    forEachCollection([](const Kind&, INodeCfg& node, kaz::kazparser::INodeCfgCollection& list) {
+        const std::wstring before = node.toXml();
+        INodeCfg* item = list.getChild(0);
+        EXPECT_EQ(list.replace(item, 0), nullptr);
+        EXPECT_EQ(item->getParent(), &node);
+        EXPECT_EQ(node.toXml(), before);
+    });
+}
+
+// Every collection refuses a null item before looking at the position, a
+// position past the end (insert too: it never adds at the end) and a node it
+// does not hold, naming its class and the operation, and takes nothing.
+TEST_F(CollectionsTest, RefusedListCallsNameTheOperationAndChangeNothing) {
+    const auto range = IKAZException::OutOfRange;
+    const auto invalid = IKAZException::InvalidData;
+    NodePtr<> expression(KAZConfigFactory::createUseExpressionCfg(nullptr, nullptr));
+    forEachCollection([&](const Kind& kind, INodeCfg& node,
+                          kaz::kazparser::INodeCfgCollection& collection) {
+        auto* list = &collection;
+        NodePtr<> item(list->getChild(0)->clone());
+        item->setParent(nullptr);
+        const unsigned int n = list->getCount();
+        const std::wstring past = L"index " + std::to_wstring(n) + L" is out of range";
+        // The generic node holds any node.
+        INodeCfg* foreign = kind.type == INodeCfg::XNode ? nullptr : expression.get();
+        const std::tuple<const wchar_t*, std::function<void()>, IKAZException::Kind, std::wstring>
+            cases[] = {
+                {L"getChild", [&] { (*list)[n]; }, range, past},
+                {L"insert", [&] { list->insert(item.get(), n); }, range, past},
+                {L"replace", [&] { list->replace(item.get(), n); }, range, past},
+                {L"remove", [&] { list->remove(n); }, range, past},
+                {L"append", [&] { list->append(foreign); }, invalid, L"Invalid argument"},
+                {L"append", [&] { list->setChild(foreign); }, invalid, L"Invalid argument"},
+                {L"insert", [&] { list->insert(nullptr, n + 9); }, invalid, L"Invalid argument"},
+                {L"replace", [&] { list->replace(nullptr, n + 9); }, invalid, L"Invalid argument"},
+            };
+        const std::string name = kind.name;
+        const std::wstring className = std::wstring(name.begin(), name.end()) + L"CfgImpl::";
+        const std::wstring before = node.toXml();
+        for (const auto& [method, call, error, message] : cases) {
+            expectError(call, error, message, className + method);
+            EXPECT_EQ(node.toXml(), before);
+        }
+        EXPECT_EQ(item->getParent(), nullptr);
+        list->deleteChildren();  // an empty list has no position to insert at
+        expectError([&] { list->insert(item.get(), 0); }, range, L"index 0 is out of range",
+                    className + L"insert");
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryKind, KindsTest, testing::ValuesIn(kKinds),
@@ -232,5 +320,39 @@ INSTANTIATE_TEST_SUITE_P(EveryKind, KindsTest, testing::ValuesIn(kKinds),
                              return std::string(info.param.name) +
                                     (info.index + 1 == std::size(kKinds) ? "LanguageString" : "");
                          });
+
+using FormsTest = KindsTest;
+
+// The document and node forms read what the text form reads; a null node
+// raises E_POINTER.
+TEST_P(FormsTest, DocumentAndNodeFormsReadWhatTheTextFormReads) {
+    const std::wstring expected = full()->toXml();
+    const auto doc = kaz::xml::Document::create();
+    ASSERT_TRUE(doc->loadXML(GetParam().full));
+    auto holder = NodePtr<>(createGeneric(nullptr, nullptr));
+    NodePtr<> fromDocument(GetParam().fromDocument(doc, holder.get()));
+    NodePtr<> fromNode(GetParam().fromNode(doc->documentElement(), holder.get()));
+    for (const INodeCfg* node : {fromDocument.get(), fromNode.get()}) {
+        ASSERT_NE(node, nullptr);
+        EXPECT_EQ(node->toXml(), expected);
+        EXPECT_EQ(node->getParent(), holder.get());
+    }
+    try {
+        GetParam().fromNode(IXMLDOMNodePtr(), nullptr);
+        ADD_FAILURE() << "a null node was read";
+    } catch (const kaz::xml::PlatformError& error) {
+        EXPECT_EQ(error.code(), kaz::xml::E_POINTER);
+    }
+}
+
+std::vector<Kind> kindsWithForms() {
+    std::vector<Kind> kinds;
+    for (const Kind& kind : kKinds)
+        if (kind.fromDocument != nullptr) kinds.push_back(kind);
+    return kinds;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryKindWithForms, FormsTest, testing::ValuesIn(kindsWithForms()),
+                         [](const testing::TestParamInfo<Kind>& info) { return info.param.name; });
 
 }  // namespace

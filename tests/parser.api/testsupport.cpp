@@ -1,8 +1,33 @@
 #include "testsupport.h"
 
+#include <cstdlib>
 #include <new>
 
+#include "environmentadapter/IEnvironmentAdapter.h"
+#include "ioutils/IOUtils.h"
+
 namespace kaztest {
+
+void ExamplesRootTest::SetUp() {
+    LeakCheckedTest::SetUp();
+    kaz::environmentadapter::IEnvironmentAdapter::getInstance().setRootDirectory(
+        examplesDirectory().wstring());
+}
+
+void ExamplesRootTest::TearDown() {
+    kaz::kazparser::KAZConfigFactory::setWorkingLanguageResource(L"<Language/>");
+    kaz::environmentadapter::IEnvironmentAdapter::getInstance().resetRootDirectory();
+    LeakCheckedTest::TearDown();
+}
+
+std::filesystem::path sourceDirectory() {
+    const char* root = std::getenv("KAZ_TEST_DATA");
+    return root != nullptr ? std::filesystem::path(root) : std::filesystem::current_path();
+}
+
+std::wstring readFile(const std::filesystem::path& path) {
+    return ioutils::IOUtilsFactory::createIOUtils()->readTextFile(path.wstring());
+}
 
 MessageCapture::MessageCapture()
     : messages_(std::make_shared<std::vector<std::pair<std::wstring, std::wstring>>>()) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -27,6 +28,21 @@ protected:
 private:
     long liveAtStart_ = 0;
 };
+
+// File references are taken under the examples folder; no working language
+// is left behind.
+class ExamplesRootTest : public LeakCheckedTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+};
+
+// The source tree, where the examples and the conformance suite are found.
+std::filesystem::path sourceDirectory();
+inline std::filesystem::path examplesDirectory() {
+    return sourceDirectory() / "examples";
+}
+std::wstring readFile(const std::filesystem::path& path);
 
 // Deletes a node at the end of scope.
 struct NodeDeleter {
@@ -79,5 +95,17 @@ void expectNothingLeaksUnderAllocationFailures(const std::function<void()>& acti
 
 // The method named by a context text ("...\n\t[method] <name>").
 std::wstring methodOf(const std::wstring& context);
+
+// Runs `action`, which must raise exactly one error of `kind` saying
+// `message`, thrown in `method` (qualified below kaz::kazparser::).
+template <class Action>
+void expectError(Action&& action, IKAZException::Kind kind, const std::wstring& message,
+                 const std::wstring& method) {
+    const auto chain = thrownChain(std::forward<Action>(action));
+    ASSERT_EQ(chain.size(), 1u) << "one error expected";
+    EXPECT_EQ(chain[0].kind, kind);
+    EXPECT_EQ(chain[0].message, message);
+    EXPECT_EQ(methodOf(chain[0].context), L"kaz::kazparser::" + method);
+}
 
 }  // namespace kaztest

@@ -1,10 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <memory>
 #include <string>
 
-#include "ioutils/Numbers.h"
 #include "tableobj/TableobjFactory.h"
 
 using namespace tableobj;
@@ -100,15 +98,6 @@ TEST(TableobjXml, WritingStopsAtTheFirstRefusedPiece) {
     StringXmlWriter collecting(text);
     EXPECT_TRUE(table->writeXml(collecting));
     EXPECT_EQ(text, kRoadsXml);
-}
-
-TEST(TableobjXml, DoublesReadBackExactly) {
-    for (double value : {0.1, 1e300, -0.0, 5e-324, -123.456, 1.0 / 3}) {
-        const std::wstring text = own(TableobjFactory::createDouble(value))->toXml();
-        const double back = ioutils::parseDouble(text);
-        EXPECT_EQ(back, value) << text;
-        EXPECT_EQ(std::signbit(back), std::signbit(value)) << text;
-    }
 }
 
 TEST(TableobjFactory, MapsDatatypeTexts) {
