@@ -4,6 +4,24 @@
 
 namespace kaz::kazparser {
 
+// A deep copy of `node` as a `T`; null for no node, and for a copy of
+// another kind, which is deleted.
+template <class T>
+T* typedClone(const T* node) {
+    if (node == nullptr) return nullptr;
+    INodeCfg* copy = node->clone();
+    auto* typed = dynamic_cast<T*>(copy);
+    if (typed == nullptr) delete copy;
+    return typed;
+}
+
+// Makes `child`, when there is one, a child of `owner`; hands it back.
+template <class T>
+T* adopted(T* child, INodeCfg* owner) {
+    if (child != nullptr) child->setParent(owner);
+    return child;
+}
+
 // One owned child of a fixed-child kind (`T` is the child interface). The
 // owner passes itself where the child is to be re-parented.
 template <class T>
@@ -22,29 +40,23 @@ public:
     // (deleting it would leave the slot dangling).
     void set(T* child, INodeCfg* owner) {
         if (child != child_) reset();
-        child_ = child;
-        if (child_ != nullptr && owner != nullptr) child_->setParent(owner);
+        child_ = owner != nullptr ? adopted(child, owner) : child;
     }
 
     // Adopts `child` (re-parented to `owner` unless it is null) and hands
     // back the previous child detached. Replacing the child already held by
     // itself hands nothing back, so that no node has two owners.
     T* replace(T* child, INodeCfg* owner) {
-        if (child != nullptr && child == child_) {
-            if (owner != nullptr) child->setParent(owner);
-            return nullptr;
-        }
         T* previous = child_;
-        child_ = child;
-        if (child_ != nullptr && owner != nullptr) child_->setParent(owner);
-        return detach(previous);
+        child_ = owner != nullptr ? adopted(child, owner) : child;
+        return previous != child ? adopted(previous, nullptr) : nullptr;
     }
 
     // Hands back the child detached; null when there is none.
     T* release() {
         T* previous = child_;
         child_ = nullptr;
-        return detach(previous);
+        return adopted(previous, nullptr);
     }
 
     void reset() {
@@ -54,22 +66,10 @@ public:
 
     // Makes this slot hold a deep copy of `other`'s child, owned by `owner`.
     void cloneFrom(const ChildSlot& other, INodeCfg* owner) {
-        if (other.child_ == nullptr) return;
-        INodeCfg* copy = other.child_->clone();
-        T* typed = dynamic_cast<T*>(copy);
-        if (typed == nullptr) {  // a clone of another kind cannot fill the slot
-            delete copy;
-            return;
-        }
-        set(typed, owner);
+        if (T* copy = typedClone(other.child_)) set(copy, owner);
     }
 
 private:
-    static T* detach(T* child) {
-        if (child != nullptr) child->setParent(nullptr);
-        return child;
-    }
-
     T* child_ = nullptr;
 };
 

@@ -107,12 +107,15 @@ void KAZParserContentHandlerImpl::openNode(const kinds::Kind& kind, const std::w
                                            KAZSAXAttributesImpl& attributes) {
     const kinds::Made made = kind.make({name, &attributes, startTagLocation()}, nextParent());
     push(made.node, made.content, static_cast<int>(kind.content));
-    if (kind.content == Mode::Markup || kind.content == Mode::Value) captured_.clear();
+    if (collectsContent(kind.content)) captured_.clear();
+}
+
+bool KAZParserContentHandlerImpl::collectsContent(Mode mode) {
+    return mode == Mode::Markup || mode == Mode::Value;
 }
 
 bool KAZParserContentHandlerImpl::capturing() const {
-    const Mode current = mode();
-    return current == Mode::Raw || current == Mode::Markup || current == Mode::Value;
+    return mode() == Mode::Raw || collectsContent(mode());
 }
 
 void KAZParserContentHandlerImpl::captureStart(const std::wstring& name,
@@ -145,7 +148,7 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
         popNoNode();
         return kaz::xml::S_OK;
     }
-    if (mode() == Mode::Markup || mode() == Mode::Value) finishCapture(name);
+    if (collectsContent(mode())) finishCapture(name);
     INodeCfg* child = pop();
     if (top() != nullptr) attachToParent(child, name);
     return kaz::xml::S_OK;
@@ -155,7 +158,6 @@ void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wst
     INodeCfg* parent = top();
     try {
         if (takeSampleData(parent, child) || parent->setChild(child)) return;
-        child->setParent(parent);
     } catch (kazexception::IKAZException* e) {
         addException(name, e);
     }
@@ -183,7 +185,7 @@ long KAZParserContentHandlerImpl::characters(const wchar_t* chars, int length) {
 void KAZParserContentHandlerImpl::flushText() {
     if (pendingText_.empty()) return;
     replaceRootDirectory(pendingText_);
-    if (mode() == Mode::Markup || mode() == Mode::Value)
+    if (collectsContent(mode()))
         captured_.characters(pendingText_);
     else if (ContentSink* content = topContent())
         content->appendText(pendingText_);

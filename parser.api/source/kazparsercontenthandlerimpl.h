@@ -46,6 +46,8 @@ private:
     Mode mode() const { return static_cast<Mode>(topMode()); }
     // Raw, Markup and Value keep nested elements as content.
     bool capturing() const;
+    // Markup and Value collect the content whole, to hand it over at the end.
+    static bool collectsContent(Mode mode);
 
     // The kind of the element `name`, made with `parent`; null when it
     // makes no node.

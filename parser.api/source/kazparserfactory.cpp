@@ -3,6 +3,8 @@
 #include <memory>
 #include <new>
 
+#include <optional>
+
 #include "datacollectorcfgimpl.h"
 #include "datamodifiercfgimpl.h"
 #include "elementselector.h"
@@ -121,11 +123,10 @@ INodeCfg* KAZConfigFactory::buildTree(const std::wstring& text, INodeCfg* parent
         KAZParserContentHandlerImpl content(parent);
         KAZParserErrorHandlerImpl errors;
         if (options.rootKind) content.expectKind(*options.rootKind);
-        ElementSelector selected(content,
-                                 options.onlyElement != nullptr ? options.onlyElement : L"");
+        std::optional<ElementSelector> selected;
+        if (options.onlyElement != nullptr) selected.emplace(content, options.onlyElement);
         kaz::xml::ISAXContentHandler& events =
-            options.onlyElement != nullptr ? static_cast<kaz::xml::ISAXContentHandler&>(selected)
-                                           : content;
+            selected ? static_cast<kaz::xml::ISAXContentHandler&>(*selected) : content;
         check(reader.putContentHandler(&events), L"the content handler was refused");
         check(reader.putErrorHandler(&errors), L"the error handler was refused");
         try {

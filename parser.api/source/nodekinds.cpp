@@ -115,12 +115,7 @@ const std::array<Kind, 32> kKinds = {
     kind<LanguageStringCfgImpl>(T::UseData, L"UseLanguageString", Content::Text),
 };
 
-const Kind& languageStringKind() {
-    return kKinds.back();
-}
-
-// Element names that decide their kind (null: known, but no node), in the
-// order the builder tries them.
+// Element names that decide their kind (null: known, but no node).
 std::unordered_map<std::wstring_view, const Kind*> makeNameTable() {
     using tableobj::IElement;
     std::unordered_map<std::wstring_view, const Kind*> names;
@@ -153,7 +148,7 @@ std::unordered_map<std::wstring_view, const Kind*> makeNameTable() {
          {IElement::Double, IElement::String, IElement::Integer, IElement::Boolean,
           IElement::Tables, IElement::Table, IElement::Column})
         names.emplace(UseDataCfgImpl::elementNameOf(type), &of(T::UseData));
-    names.emplace(languageStringKind().tag, &languageStringKind());
+    names.emplace(languageString().tag, &languageString());
     // Table elements feed the value being read; elsewhere they make nothing.
     for (std::wstring_view table : {L"Tables", L"Table", L"Properties", L"Property", L"Column"})
         names.emplace(table, nullptr);
@@ -185,22 +180,30 @@ const Kind& childOf(INodeCfg::NodeType parentType) {
     return of(child ? *child : T::XNode);
 }
 
-const std::wstring& tag(INodeCfg::NodeType type) {
+namespace {
+
+// Each row's tag as a string that lives as long as the process.
+const std::wstring& tagOfRow(std::size_t row) {
     static const auto tags = [] {
         std::array<std::wstring, kKinds.size()> all;
         for (std::size_t i = 0; i < kKinds.size(); ++i) all[i] = kKinds[i].tag;
         return all;
     }();
-    return tags[static_cast<std::size_t>(type)];
+    return tags[row];
+}
+
+}  // namespace
+
+const std::wstring& tag(INodeCfg::NodeType type) {
+    return tagOfRow(static_cast<std::size_t>(type));
 }
 
 const Kind& languageString() {
-    return languageStringKind();
+    return kKinds.back();
 }
 
 const std::wstring& languageStringTag() {
-    static const std::wstring tag(languageStringKind().tag);
-    return tag;
+    return tagOfRow(kKinds.size() - 1);
 }
 
 }  // namespace kaz::kazparser::kinds

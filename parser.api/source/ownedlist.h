@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "kazparser/INodeCfg.h"
+#include "childslot.h"
 
 namespace kaz::kazparser {
 
@@ -22,14 +22,10 @@ public:
     Item* operator[](std::size_t index) const { return items_[index]; }
     const std::vector<Item*>& items() const { return items_; }
 
-    void append(Item* item, INodeCfg* owner) {
-        items_.push_back(item);
-        adopt(item, owner);
-    }
+    void append(Item* item, INodeCfg* owner) { items_.push_back(adopted(item, owner)); }
 
     void insert(std::size_t index, Item* item, INodeCfg* owner) {
-        items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index), item);
-        adopt(item, owner);
+        items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index), adopted(item, owner));
     }
 
     // Puts `item` at `index` and hands back the item that was there,
@@ -37,9 +33,8 @@ public:
     // back, so that no node has two owners.
     Item* replace(std::size_t index, Item* item, INodeCfg* owner) {
         Item* previous = items_[index];
-        items_[index] = item;
-        adopt(item, owner);
-        return previous != item ? detach(previous) : nullptr;
+        items_[index] = adopted(item, owner);
+        return previous != item ? adopted(previous, nullptr) : nullptr;
     }
 
     // As replace, deleting the item that was there.
@@ -48,7 +43,7 @@ public:
     Item* remove(std::size_t index) {
         Item* item = items_[index];
         items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
-        return detach(item);
+        return adopted(item, nullptr);
     }
 
     void clear() {
@@ -62,25 +57,12 @@ public:
     void copyFrom(const OwnedList& other, INodeCfg* owner) {
         items_.reserve(items_.size() + other.size());  // no append below can throw
         for (const Item* item : other.items_) {
-            INodeCfg* copy = item != nullptr ? item->clone() : nullptr;
-            auto* typed = dynamic_cast<Item*>(copy);
-            if (copy != nullptr && typed == nullptr) {
-                delete copy;
-                continue;
-            }
-            append(typed, owner);
+            Item* copy = typedClone(item);
+            if (item == nullptr || copy != nullptr) append(copy, owner);
         }
     }
 
 private:
-    static void adopt(Item* item, INodeCfg* owner) {
-        if (item != nullptr) item->setParent(owner);
-    }
-    static Item* detach(Item* item) {
-        if (item != nullptr) item->setParent(nullptr);
-        return item;
-    }
-
     std::vector<Item*> items_;
 };
 

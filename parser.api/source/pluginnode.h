@@ -6,7 +6,6 @@
 #include "fixedchildren.h"
 #include "kazparser/IParamSetsCfg.h"
 #include "kazxml/SAX.h"
-#include "nodeerrors.h"
 #include "nodeimpl.h"
 #include "nodekinds.h"
 #include "saxattributes.h"
