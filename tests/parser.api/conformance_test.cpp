@@ -3,7 +3,6 @@
 // tell from well-formed ones.
 
 #include <cwctype>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -15,7 +14,6 @@
 namespace {
 
 using namespace kaztest;
-using kaz::kazparser::KAZConfigFactory;
 namespace fs = std::filesystem;
 
 struct Document {
@@ -80,7 +78,8 @@ bool accepted(const std::wstring& text) {
     return built && capture.messages().empty();
 }
 
-class ConformanceTest : public LeakCheckedTest {};
+using ConformanceTest = LeakCheckedTest;
+using RoundTripTest = LeakCheckedTest;
 
 TEST_F(ConformanceTest, NotWellFormedDocumentsWithoutDoctypeAreRefused) {
     const fs::path suite = sourceDirectory() / ".." / "shared" / "xmlconf";

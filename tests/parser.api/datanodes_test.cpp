@@ -1,7 +1,5 @@
-// The data-value node kinds: names, writing, value ownership and the child
-// operations they refuse.
-
-#include <functional>
+// The typed-value node: the element it writes, which its value's type names
+// or else its own, and its ownership of the value.
 
 #include "tableobj/TableobjFactory.h"
 #include "testsupport.h"
@@ -9,51 +7,28 @@
 namespace {
 
 using namespace kaztest;
-using kaz::kazparser::ILanguageStringCfg;
-using kaz::kazparser::IUseDataCfg;
-using kaz::kazparser::IUseRefDataCfg;
-using kaz::kazparser::KAZConfigFactory;
 using tableobj::IElement;
 using tableobj::TableobjFactory;
+
+NodePtr<IUseDataCfg> readData(IElement::ElementType type, const std::wstring& text) {
+    return NodePtr<IUseDataCfg>(KAZConfigFactory::createUseDataCfg(type, &text, nullptr));
+}
 
 NodePtr<IUseDataCfg> emptyData() {
     return NodePtr<IUseDataCfg>(
         KAZConfigFactory::createUseDataCfg(IElement::NoValue, nullptr, nullptr));
 }
-NodePtr<IUseRefDataCfg> emptyReference() {
-    return NodePtr<IUseRefDataCfg>(
-        KAZConfigFactory::createUseRefDataCfg(IElement::NoValue, nullptr, nullptr));
-}
-NodePtr<ILanguageStringCfg> emptyLanguageString() {
-    return NodePtr<ILanguageStringCfg>(KAZConfigFactory::createLanguageStringCfg(nullptr, nullptr));
-}
 
-class DataNodeTest : public LeakCheckedTest {};
+using DataNodeTest = LeakCheckedTest;
 
-TEST_F(DataNodeTest, KindsAnswerTheirDataTypesAndTakeNoChild) {
-    auto data = emptyData();
-    auto reference = emptyReference();
-    auto text = emptyLanguageString();
-    EXPECT_EQ(text->getDataType(), IElement::NoValue);
-    text->setStringID(L"IDS_ROAD");
-    EXPECT_EQ(text->getDataType(), IElement::String);
-    EXPECT_EQ(reference->getDataType(), IElement::NoValue);
-    auto child = emptyData();
-    expectError([&] { data->setChild(child.get()); }, IKAZException::InvalidData,
-                L"Do not use this method", L"UseDataCfgImpl::setChild");
-    EXPECT_FALSE(reference->setChild(child.get()));
-    EXPECT_FALSE(text->setChild(child.get()));
-    EXPECT_EQ(child->getParent(), nullptr);
-}
-
-TEST_F(DataNodeTest, StoredValuesNameTheElementWhereTheirTypeHasAName) {
-    struct Case {
+// A value node writes the element its value's type names, else the element
+// name it was read under or given; a number that names no type reads nothing.
+TEST_F(DataNodeTest, ValuesWriteTheElementTheirTypeNamesElseTheirOwn) {
+    const struct {
         std::function<IElement*()> make;
         const wchar_t* written;  // the element was named "Held" before
-    };
-    const Case cases[] = {
+    } stored[] = {
         {[] { return TableobjFactory::createBool(true); }, L"<UseBoolean>true</UseBoolean>"},
-        {[] { return TableobjFactory::createDouble(0.1); }, L"<UseDouble>0.1</UseDouble>"},
         {[] { return TableobjFactory::createString(L"R&D <x>"); },
          L"<UseString>R&amp;D &lt;x&gt;</UseString>"},
         {[] { return TableobjFactory::createColumnInt(L"N"); },
@@ -62,15 +37,28 @@ TEST_F(DataNodeTest, StoredValuesNameTheElementWhereTheirTypeHasAName) {
         {[] { return TableobjFactory::createTablesCollection(); },
          L"<Held><Tables></Tables></Held>"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::PrintToString(std::wstring(c.written)));
+    for (const auto& c : stored) {
         auto node = emptyData();
-        EXPECT_EQ(node->toXml(), L"<UseData></UseData>");
         node->setElementName(L"Held");
         node->setValue(c.make());
         EXPECT_EQ(node->getDataType(), node->getValue()->getElementType());
         EXPECT_EQ(node->toXml(), c.written);
     }
+    const struct {
+        IElement::ElementType type;
+        const wchar_t* text;
+        const wchar_t* written;
+    } read[] = {
+        {IElement::Integer, L"<Held>5</Held>", L"<UseInteger>5</UseInteger>"},
+        {IElement::Columns,
+         L"<Held><Columns><Column datatype=\"integer\"><Row>2</Row></Column>"
+         L"</Columns></Held>",
+         L"<Held><Columns><Column datatype=\"integer\"><Row>2</Row></Column></Columns></Held>"},
+        {static_cast<IElement::ElementType>(6), L"<Held>5</Held>", L"<Held></Held>"},  // no type
+        {IElement::Table, L"<UseTable> </UseTable>", L"<UseTable></UseTable>"},
+        {IElement::Double, L"<UseDouble>1", L"<UseData></UseData>"},  // malformed: empty
+    };
+    for (const auto& c : read) EXPECT_EQ(readData(c.type, c.text)->toXml(), c.written) << c.text;
 }
 
 TEST_F(DataNodeTest, ValuesAreOwnedUntilReplacedOrReleased) {

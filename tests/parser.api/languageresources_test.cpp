@@ -6,8 +6,6 @@
 namespace {
 
 using namespace kaztest;
-using kaz::kazparser::ILanguageStringCfg;
-using kaz::kazparser::KAZConfigFactory;
 
 // The text a language string of `id` shows.
 std::wstring shown(const std::wstring& id) {
@@ -21,14 +19,8 @@ const std::wstring kEnglish =
     L"<Group><String id=\"lane\">La<![CDATA[n]]>e &amp; more</String><String>no id</String>"
     L"</Group><String id=\"road\">Street</String></Language>";
 
-// Tests leave no working language behind.
-class LanguageResourceTest : public LeakCheckedTest {
-protected:
-    void TearDown() override {
-        KAZConfigFactory::setWorkingLanguageResource(L"<Language/>");
-        LeakCheckedTest::TearDown();
-    }
-};
+// Leaves no working language behind.
+using LanguageResourceTest = ExamplesRootTest;
 
 TEST_F(LanguageResourceTest, LanguageStringsShowTheTextsOfTheWorkingLanguage) {
     ASSERT_TRUE(KAZConfigFactory::setWorkingLanguageResource(kEnglish));

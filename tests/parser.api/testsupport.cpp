@@ -42,13 +42,6 @@ MessageCapture::~MessageCapture() {
     kaz::kazparser::KAZConfigFactory::setMessageHandler(previous_);
 }
 
-std::vector<ExceptionLevel> chainOf(IKAZException* e) {
-    std::vector<ExceptionLevel> chain;
-    for (; e != nullptr; e = e->getInnerException())
-        chain.push_back({e->getKind(), e->getMessage(), e->getContext()});
-    return chain;
-}
-
 void expectNothingLeaksUnderAllocationFailures(const std::function<void()>& action) {
     for (long allowed = 0;; ++allowed) {
         const long live = MemObject::liveCount();

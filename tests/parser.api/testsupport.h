@@ -13,7 +13,7 @@
 
 namespace kaztest {
 
-using kaz::kazparser::INodeCfg;
+using namespace kaz::kazparser;
 using kazexception::IKAZException;
 
 // Fails the test when it leaves objects alive that it did not start with.
@@ -72,20 +72,20 @@ struct ExceptionLevel {
     std::wstring message;
     std::wstring context;
 };
-std::vector<ExceptionLevel> chainOf(IKAZException* e);
 
 // Runs `action`, which must throw IKAZException*; answers its chain and
 // releases it. An empty chain means nothing was thrown.
 template <class Action>
 std::vector<ExceptionLevel> thrownChain(Action&& action) {
+    std::vector<ExceptionLevel> chain;
     try {
         action();
     } catch (IKAZException* e) {
-        std::vector<ExceptionLevel> chain = chainOf(e);
+        for (IKAZException* level = e; level != nullptr; level = level->getInnerException())
+            chain.push_back({level->getKind(), level->getMessage(), level->getContext()});
         e->release();
-        return chain;
     }
-    return {};
+    return chain;
 }
 
 // Runs `action` with MemObject allocations failing after 0, 1, 2, ...
