@@ -77,7 +77,7 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     flushText();
     KAZSAXAttributesImpl copy(attributes);
     replaceRootDirectory(copy);
-    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
+    const std::wstring& name = nameOf(qName, qNameLength);
     if (capturing()) {
         captureStart(name, copy);
     } else if (const kinds::Kind* kind = chooseKind(name, nextParent())) {
@@ -87,6 +87,11 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
         addError(L"\nCan not create <" + name + L">\n");
     }
     return kaz::xml::S_OK;
+}
+
+const std::wstring& KAZParserContentHandlerImpl::nameOf(const wchar_t* qName, int length) {
+    elementName_.assign(qName, static_cast<std::size_t>(length));
+    return elementName_;
 }
 
 const kinds::Kind* KAZParserContentHandlerImpl::chooseKind(const std::wstring& name,
@@ -139,7 +144,7 @@ void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength) {
     flushText();
-    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
+    const std::wstring& name = nameOf(qName, qNameLength);
     if (nested_ > 0) {
         captureEnd(name);
         return kaz::xml::S_OK;

@@ -9,23 +9,24 @@ bool encodable(char32_t c) {
     return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
 }
 
-void appendUtf8(std::string& out, char32_t c) {
+char* putUtf8(char* out, char32_t c) {
     if (!encodable(c)) c = kReplacement;
     if (c < 0x80) {
-        out += static_cast<char>(c);
+        *out++ = static_cast<char>(c);
     } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
+        *out++ = static_cast<char>(0xC0 | (c >> 6));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
     } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
+        *out++ = static_cast<char>(0xE0 | (c >> 12));
+        *out++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
     } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
+        *out++ = static_cast<char>(0xF0 | (c >> 18));
+        *out++ = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        *out++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
     }
+    return out;
 }
 
 // Decodes one UTF-8 sequence at `pos`, advancing it; overlong forms,
@@ -71,19 +72,44 @@ char32_t decodeUtf8(std::string_view text, std::size_t& pos) {
 
 }  // namespace
 
+// Both directions size their result once (the text is measured first, or
+// cut to length after) and copy runs of ASCII without decoding them.
 std::string utf8FromWide(std::wstring_view text) {
     std::string out;
-    out.reserve(text.size());
-    for (wchar_t c : text) appendUtf8(out, static_cast<char32_t>(c));
+    appendUtf8FromWide(out, text);
     return out;
+}
+
+void appendUtf8FromWide(std::string& out, std::wstring_view text) {
+    std::size_t length = 0;
+    for (wchar_t c : text) length += utf8Length(c);
+    const std::size_t start = out.size();
+    out.resize(start + length);
+    char* at = out.data() + start;
+    for (wchar_t c : text) {
+        if (static_cast<char32_t>(c) < 0x80)
+            *at++ = static_cast<char>(c);
+        else
+            at = putUtf8(at, static_cast<char32_t>(c));
+    }
 }
 
 std::wstring wideFromUtf8(std::string_view text) {
     std::wstring out;
-    out.reserve(text.size());
-    for (std::size_t pos = 0; pos < text.size();)
-        out += static_cast<wchar_t>(decodeUtf8(text, pos));
+    assignWideFromUtf8(out, text);
     return out;
+}
+
+void assignWideFromUtf8(std::wstring& out, std::string_view text) {
+    out.resize(text.size());
+    wchar_t* at = out.data();
+    for (std::size_t pos = 0; pos < text.size();) {
+        if (static_cast<unsigned char>(text[pos]) < 0x80)
+            *at++ = static_cast<wchar_t>(text[pos++]);
+        else
+            *at++ = static_cast<wchar_t>(decodeUtf8(text, pos));
+    }
+    out.resize(static_cast<std::size_t>(at - out.data()));
 }
 
 std::wstring wideFromUtf16(std::string_view bytes, bool bigEndian) {

@@ -123,8 +123,8 @@ struct ContextFree {
 };
 
 // The parsed tree, or null with `state.failure` telling why.
-std::shared_ptr<const detail::DocumentTree> load(const std::string& utf8, LoadState& state) {
-    if (detail::blank(utf8)) {
+std::shared_ptr<const detail::DocumentTree> load(std::wstring_view text, LoadState& state) {
+    if (detail::blank(text)) {
         state.failed = true;
         state.failure = detail::emptyDocument();
         return nullptr;
@@ -134,7 +134,7 @@ std::shared_ptr<const detail::DocumentTree> load(const std::string& utf8, LoadSt
         detail::openPushParser(treeBuilder(), nullptr));
     if (!ctxt) throw std::bad_alloc();
     ctxt->_private = &state;
-    detail::feedPushParser(ctxt.get(), utf8, state.failed);
+    detail::feedPushParser(ctxt.get(), text, state.failed);
     xmlDocPtr doc = std::exchange(ctxt->myDoc, nullptr);
     if (doc != nullptr && !state.failed && ctxt->wellFormed) {
         auto tree = detail::adopt(doc);
@@ -178,7 +178,7 @@ bool Document::loadXML(const std::wstring& text) {
     impl_->tree.reset();
     impl_->error = ParseErrorInfo();
     LoadState state;
-    impl_->tree = load(detail::utf8ForParser(text), state);
+    impl_->tree = load(detail::textForParser(text), state);
     if (impl_->tree) return true;
     const ErrorReport& failure = state.failure;
     impl_->error = {failure.code, failure.line, failure.column, failure.message};

@@ -23,24 +23,29 @@ xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData) {
     return ctxt;
 }
 
-void feedPushParser(xmlParserCtxtPtr ctxt, std::string_view utf8, const bool& stop) {
-    constexpr std::size_t kChunkSize = 64 * 1024;
-    for (std::size_t offset = 0; offset < utf8.size() && !stop;) {
-        const std::size_t size = std::min(kChunkSize, utf8.size() - offset);
-        const bool last = offset + size == utf8.size();
-        xmlParseChunk(ctxt, utf8.data() + offset, static_cast<int>(size), last ? 1 : 0);
-        offset += size;
+void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop) {
+    // Converted a piece at a time, so that no UTF-8 copy of the whole text
+    // is ever made.
+    constexpr std::size_t kPieceLength = 16 * 1024;
+    std::string piece;
+    for (std::size_t offset = 0; offset < text.size() && !stop;) {
+        const std::wstring_view next = text.substr(offset, kPieceLength);
+        offset += next.size();
+        piece.clear();
+        ioutils::appendUtf8FromWide(piece, next);
+        xmlParseChunk(ctxt, piece.data(), static_cast<int>(piece.size()),
+                      offset == text.size() ? 1 : 0);
     }
 }
 
-std::string utf8ForParser(const std::wstring& text) {
+std::wstring_view textForParser(const std::wstring& text) {
     std::wstring_view view(text);
     if (!view.empty() && view.front() == L'\xFEFF') view.remove_prefix(1);
-    return ioutils::utf8FromWide(view);
+    return view;
 }
 
-bool blank(std::string_view utf8) {
-    return utf8.find_first_not_of(" \t\r\n") == utf8.npos;
+bool blank(std::wstring_view text) {
+    return text.find_first_not_of(L" \t\r\n") == text.npos;
 }
 
 std::wstring toWide(const xmlChar* text) {
@@ -72,8 +77,17 @@ std::string decodeAmpersands(std::string_view delivered) {
     return value;
 }
 
+void assignAttributeValue(std::wstring& out, std::string_view delivered) {
+    if (delivered.find('&') == delivered.npos)
+        ioutils::assignWideFromUtf8(out, delivered);
+    else
+        ioutils::assignWideFromUtf8(out, decodeAmpersands(delivered));
+}
+
 std::wstring attributeValue(std::string_view delivered) {
-    return ioutils::wideFromUtf8(decodeAmpersands(delivered));
+    std::wstring value;
+    assignAttributeValue(value, delivered);
+    return value;
 }
 
 std::wstring namespaceName(const xmlChar* delivered) {

@@ -25,15 +25,15 @@ void ensureParserInitialized();
 // context itself), under kParseOptions, told that the text is UTF-8.
 // Null when out of memory.
 xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData);
-// Feeds the text in chunks of at most 64 KiB, the last one ending the
-// document; stops early once `stop` turns true.
-void feedPushParser(xmlParserCtxtPtr ctxt, std::string_view utf8, const bool& stop);
+// Feeds the text as UTF-8 in pieces of at most 64 KiB, the last one ending
+// the document; stops early once `stop` turns true.
+void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop);
 
-// The text as UTF-8 for libxml2, without a leading byte order mark (which
+// The text the parser reads: without a leading byte order mark (which
 // libxml2 would take for content once told the text is UTF-8).
-std::string utf8ForParser(const std::wstring& text);
+std::wstring_view textForParser(const std::wstring& text);
 // True when the text holds nothing but XML whitespace.
-bool blank(std::string_view utf8);
+bool blank(std::wstring_view text);
 
 std::wstring toWide(const xmlChar* text);
 std::wstring toWide(const xmlChar* text, std::size_t length);
@@ -49,6 +49,7 @@ inline const xmlChar* asXmlChars(const std::string& text) {
 // right, restores the value exactly.
 std::string decodeAmpersands(std::string_view delivered);
 std::wstring attributeValue(std::string_view delivered);
+void assignAttributeValue(std::wstring& out, std::string_view delivered);
 std::wstring namespaceName(const xmlChar* delivered);  // empty for null
 
 // One problem found in the text, with its place.

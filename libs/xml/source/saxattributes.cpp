@@ -31,36 +31,41 @@ std::wstring_view view(const wchar_t* text, int length) {
 
 }  // namespace
 
-void SAXAttributes::assign(int namespaceCount, const xmlChar** namespaces, int attributeCount,
-                           const xmlChar** attributes) {
-    entries_.clear();
+void SAXAttributes::assign(NameCache& names, int namespaceCount, const xmlChar** namespaces,
+                           int attributeCount, const xmlChar** attributes) {
+    static const std::wstring kNoNamespace;
+    count_ = 0;
     for (int i = 0; i < namespaceCount; ++i) {
-        const xmlChar* prefix = namespaces[2 * i];
-        const std::wstring uri = namespaceName(namespaces[2 * i + 1]);
-        if (prefix == nullptr)
-            entries_.push_back({L"", L"xmlns", L"xmlns", uri});
-        else
-            entries_.push_back({L"", toWide(prefix), L"xmlns:" + toWide(prefix), uri});
+        Entry& entry = add(kNoNamespace, names.declarationName(namespaces[2 * i]));
+        entry.value = names.namespaceName(namespaces[2 * i + 1]);
     }
     for (int i = 0; i < attributeCount; ++i) {
         const xmlChar** a = attributes + 5 * i;
-        const std::string_view delivered(chars(a[3]), static_cast<std::size_t>(a[4] - a[3]));
-        entries_.push_back({namespaceName(a[2]), toWide(a[0]), qualifiedName(a[1], a[0]),
-                            attributeValue(delivered)});
+        Entry& entry = add(names.namespaceName(a[2]), names.name(a[1], a[0]));
+        assignAttributeValue(entry.value,
+                             std::string_view(chars(a[3]), static_cast<std::size_t>(a[4] - a[3])));
     }
 }
 
+SAXAttributes::Entry& SAXAttributes::add(const std::wstring& uri, const WideName& name) {
+    if (count_ == entries_.size()) entries_.emplace_back();
+    Entry& entry = entries_[count_++];
+    entry.uri = &uri;
+    entry.name = &name;
+    return entry;
+}
+
 const SAXAttributes::Entry* SAXAttributes::at(int index) const {
-    if (index < 0 || static_cast<std::size_t>(index) >= entries_.size()) return nullptr;
+    if (index < 0 || static_cast<std::size_t>(index) >= count_) return nullptr;
     return &entries_[static_cast<std::size_t>(index)];
 }
 
 int SAXAttributes::indexOf(const wchar_t* uri, int uriLength, const wchar_t* localName,
                            int localNameLength) const {
     if (!readable(uri, uriLength) || !readable(localName, localNameLength)) return -1;
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-        if (entries_[i].uri == view(uri, uriLength) &&
-            entries_[i].localName == view(localName, localNameLength))
+    for (std::size_t i = 0; i < count_; ++i) {
+        if (*entries_[i].uri == view(uri, uriLength) &&
+            entries_[i].name->localName == view(localName, localNameLength))
             return static_cast<int>(i);
     }
     return -1;
@@ -68,30 +73,31 @@ int SAXAttributes::indexOf(const wchar_t* uri, int uriLength, const wchar_t* loc
 
 int SAXAttributes::indexOfQName(const wchar_t* qName, int qNameLength) const {
     if (!readable(qName, qNameLength)) return -1;
-    for (std::size_t i = 0; i < entries_.size(); ++i)
-        if (entries_[i].qName == view(qName, qNameLength)) return static_cast<int>(i);
+    for (std::size_t i = 0; i < count_; ++i)
+        if (entries_[i].name->qName == view(qName, qNameLength)) return static_cast<int>(i);
     return -1;
 }
 
 long SAXAttributes::getLength(int* length) {
     if (length == nullptr) return E_POINTER;
-    *length = static_cast<int>(entries_.size());
+    *length = static_cast<int>(count_);
     return S_OK;
 }
 
 long SAXAttributes::getURI(int index, const wchar_t** uri, int* uriLength) {
     const Entry* entry = at(index);
-    return entry != nullptr ? answer(entry->uri, uri, uriLength) : E_INVALIDARG;
+    return entry != nullptr ? answer(*entry->uri, uri, uriLength) : E_INVALIDARG;
 }
 
 long SAXAttributes::getLocalName(int index, const wchar_t** localName, int* localNameLength) {
     const Entry* entry = at(index);
-    return entry != nullptr ? answer(entry->localName, localName, localNameLength) : E_INVALIDARG;
+    return entry != nullptr ? answer(entry->name->localName, localName, localNameLength)
+                            : E_INVALIDARG;
 }
 
 long SAXAttributes::getQName(int index, const wchar_t** qName, int* qNameLength) {
     const Entry* entry = at(index);
-    return entry != nullptr ? answer(entry->qName, qName, qNameLength) : E_INVALIDARG;
+    return entry != nullptr ? answer(entry->name->qName, qName, qNameLength) : E_INVALIDARG;
 }
 
 long SAXAttributes::getName(int index, const wchar_t** uri, int* uriLength,
@@ -99,9 +105,9 @@ long SAXAttributes::getName(int index, const wchar_t** uri, int* uriLength,
                             int* qNameLength) {
     const Entry* entry = at(index);
     if (entry == nullptr) return E_INVALIDARG;
-    long result = answer(entry->uri, uri, uriLength);
-    if (succeeded(result)) result = answer(entry->localName, localName, localNameLength);
-    if (succeeded(result)) result = answer(entry->qName, qName, qNameLength);
+    long result = answer(*entry->uri, uri, uriLength);
+    if (succeeded(result)) result = answer(entry->name->localName, localName, localNameLength);
+    if (succeeded(result)) result = answer(entry->name->qName, qName, qNameLength);
     return result;
 }
 

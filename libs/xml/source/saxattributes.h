@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "kazxml/SAX.h"
+#include "namecache.h"
 
 namespace kaz::xml::detail {
 
@@ -16,9 +17,10 @@ class SAXAttributes final : public ISAXAttributes {
 public:
     // Refills from libxml2's start-tag arrays: `namespaces` holds
     // (prefix, URI) pairs, `attributes` (localname, prefix, URI, value begin,
-    // value end) quintuples.
-    void assign(int namespaceCount, const xmlChar** namespaces, int attributeCount,
-                const xmlChar** attributes);
+    // value end) quintuples. Names come from `names`, which must outlive
+    // this use; the value strings are reused from tag to tag.
+    void assign(NameCache& names, int namespaceCount, const xmlChar** namespaces,
+                int attributeCount, const xmlChar** attributes);
 
     long getLength(int* length) override;
     long getURI(int index, const wchar_t** uri, int* uriLength) override;
@@ -42,9 +44,8 @@ public:
 
 private:
     struct Entry {
-        std::wstring uri;
-        std::wstring localName;
-        std::wstring qName;
+        const std::wstring* uri;
+        const WideName* name;
         std::wstring value;
     };
 
@@ -54,7 +55,11 @@ private:
                 int localNameLength) const;
     int indexOfQName(const wchar_t* qName, int qNameLength) const;
 
-    std::vector<Entry> entries_;
+    // Sets the next entry, reusing the storage of an earlier tag's entry.
+    Entry& add(const std::wstring& uri, const WideName& name);
+
+    std::vector<Entry> entries_;  // the first `count_` are this tag's
+    std::size_t count_ = 0;
 };
 
 }  // namespace kaz::xml::detail

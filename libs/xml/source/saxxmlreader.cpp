@@ -1,6 +1,7 @@
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -12,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "ioutils/TextCodec.h"
 #include "kazxml/SAX.h"
 #include "libxmlsupport.h"
 #include "saxattributes.h"
@@ -30,50 +32,67 @@ std::wstring hex(long code) {
 }
 
 // Line and column of places in the text, asked for in increasing order so
-// that a whole parse reads the text once. Line breaks are "\n", "\r\n" and
-// "\r"; columns count characters (UTF-8 sequences).
+// that a whole parse reads the text once. libxml2 counts UTF-8 bytes; the
+// text is wide, one character per wchar_t. Line breaks are "\n", "\r\n"
+// and "\r".
 class TextPositions {
 public:
-    explicit TextPositions(std::string_view text) : text_(text) {}
+    explicit TextPositions(std::wstring_view text) : text_(text) {}
 
-    // The position of the last "<" before byte `end`.
+    // The position of the last "<" before UTF-8 byte `end`.
     std::pair<int, int> tagStartBefore(std::size_t end) {
-        const std::size_t tag = end == 0 ? text_.npos : text_.rfind('<', end - 1);
+        mapBytes(end);
+        const std::size_t tag = characters_ == 0 ? text_.npos : text_.rfind(L'<', characters_ - 1);
         if (tag != text_.npos) advanceTo(tag);
         return {line_, column_};
     }
 
 private:
+    // Moves the (characters, bytes) pair up to `end` bytes: in blocks while
+    // a whole block lies before it (every character takes a byte at least),
+    // then one character at a time.
+    void mapBytes(std::size_t end) {
+        constexpr std::size_t kBlock = 16;
+        while (bytes_ + kBlock <= end && characters_ + kBlock <= text_.size()) {
+            std::size_t block = 0;
+            for (std::size_t i = 0; i < kBlock; ++i)
+                block += ioutils::utf8Length(text_[characters_ + i]);
+            if (bytes_ + block > end) break;
+            bytes_ += block;
+            characters_ += kBlock;
+        }
+        while (bytes_ < end && characters_ < text_.size())
+            bytes_ += ioutils::utf8Length(text_[characters_++]);
+    }
+
     void advanceTo(std::size_t target) {
-        const char* at = text_.data() + offset_;
-        const char* const end = text_.data() + target;
-        offset_ = target;
-        if (std::memchr(at, '\r', static_cast<std::size_t>(end - at)) != nullptr) {
-            for (; at < end; ++at) {
-                if (*at == '\n' || (*at == '\r' && at[1] != '\n')) {
+        if (target < offset_) return;
+        const std::size_t from = std::exchange(offset_, target);
+        const std::wstring_view passed = text_.substr(from, target - from);
+        if (passed.find(L'\r') != passed.npos) {
+            for (std::size_t i = from; i < target; ++i) {
+                if (text_[i] == L'\n' || (text_[i] == L'\r' && text_[i + 1] != L'\n')) {
                     ++line_;
                     column_ = 1;
-                } else if (*at != '\r') {
-                    column_ += startsCharacter(*at);
+                } else if (text_[i] != L'\r') {
+                    ++column_;
                 }
             }
             return;
         }
-        while (const void* found = std::memchr(at, '\n', static_cast<std::size_t>(end - at))) {
-            ++line_;
-            column_ = 1;
-            at = static_cast<const char*>(found) + 1;
+        const std::size_t lastBreak = passed.rfind(L'\n');
+        if (lastBreak == passed.npos) {
+            column_ += static_cast<int>(passed.size());
+            return;
         }
-        for (; at < end; ++at) column_ += startsCharacter(*at);
+        line_ += static_cast<int>(std::count(passed.begin(), passed.end(), L'\n'));
+        column_ = static_cast<int>(passed.size() - lastBreak);
     }
 
-    // Every byte but a UTF-8 continuation byte starts a character.
-    static int startsCharacter(char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    }
-
-    std::string_view text_;
-    std::size_t offset_ = 0;
+    std::wstring_view text_;
+    std::size_t characters_ = 0;  // the characters that make up the first
+    std::size_t bytes_ = 0;       // `bytes_` bytes of UTF-8
+    std::size_t offset_ = 0;      // where line_ and column_ are
     int line_ = 1;
     int column_ = 1;
 };
@@ -124,8 +143,8 @@ private:
 // callback into libxml2; it is kept and rethrown once the context is freed.
 class ParseSession {
 public:
-    ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors, std::string_view utf8)
-        : content_(content), errors_(errors), utf8_(utf8), positions_(utf8) {}
+    ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors, std::wstring_view text)
+        : content_(content), errors_(errors), text_(text), positions_(text) {}
     ~ParseSession() {
         if (ctxt_ == nullptr) return;
         // Once SAX is off, libxml2 may build a document of its own to keep
@@ -182,12 +201,14 @@ private:
     xmlParserCtxtPtr ctxt_ = nullptr;
     ISAXContentHandler* content_;
     ISAXErrorHandler* errors_;
-    std::string_view utf8_;
+    std::wstring_view text_;
     TextPositions positions_;
     Locator locator_;
+    detail::NameCache names_;
     detail::SAXAttributes attributes_;
     // Prefixes declared by each open element, for endPrefixMapping.
-    std::vector<std::vector<std::wstring>> prefixes_;
+    std::vector<std::vector<const std::wstring*>> prefixes_;
+    std::wstring characters_;  // the characters being reported
     int depth_ = 0;
     bool ended_ = false;  // by a failure, an exception or a refusal
     long result_ = S_OK;
@@ -214,11 +235,11 @@ xmlSAXHandler ParseSession::makeHandler() {
 long ParseSession::run() {
     if (!open()) return E_OUTOFMEMORY;
     if (content_ != nullptr) deliver([&] { return content_->putDocumentLocator(&locator_); });
-    if (detail::blank(utf8_)) {
+    if (detail::blank(text_)) {
         // libxml2 calls an empty text "extra content"; say what it is.
         if (!ended_) report(detail::emptyDocument(), XML_ERR_FATAL);
     } else {
-        detail::feedPushParser(ctxt_, utf8_, ended_);
+        detail::feedPushParser(ctxt_, text_, ended_);
     }
     finish();
     return result_;
@@ -226,8 +247,10 @@ long ParseSession::run() {
 
 bool ParseSession::open() {
     ctxt_ = detail::openPushParser(makeHandler(), this);
+    if (ctxt_ == nullptr) return false;
     locator_.attach(ctxt_);
-    return ctxt_ != nullptr;
+    names_.attach(ctxt_->dict);
+    return true;
 }
 
 void ParseSession::finish() {
@@ -290,26 +313,27 @@ void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
     if (++depth_ > SAXXMLReader::kMaxDepth) return refuse(XML_E_TOO_DEEP);
     if (content_ == nullptr) return;
     mapPrefixes(namespaceCount, namespaces);
-    attributes_.assign(namespaceCount, namespaces, attributeCount, attributes);
-    const std::wstring ns = detail::namespaceName(uri);
-    const std::wstring local = toWide(localName);
-    const std::wstring qName = detail::qualifiedName(prefix, localName);
+    attributes_.assign(names_, namespaceCount, namespaces, attributeCount, attributes);
+    const std::wstring& ns = names_.namespaceName(uri);
+    const detail::WideName& name = names_.name(prefix, localName);
     // libxml2 reports a start tag once it has read it: its "<" lies before.
     locator_.setStartTag(
         positions_.tagStartBefore(static_cast<std::size_t>(xmlByteConsumed(ctxt_))));
     deliver([&] {
-        return content_->startElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
-                                      static_cast<int>(local.size()), qName.c_str(),
-                                      static_cast<int>(qName.size()), &attributes_);
+        return content_->startElement(ns.c_str(), static_cast<int>(ns.size()),
+                                      name.localName.c_str(),
+                                      static_cast<int>(name.localName.size()), name.qName.c_str(),
+                                      static_cast<int>(name.qName.size()), &attributes_);
     });
     locator_.setStartTag(std::nullopt);
 }
 
 void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
-    std::vector<std::wstring>& declared = prefixes_.emplace_back();
+    std::vector<const std::wstring*>& declared = prefixes_.emplace_back();
     for (int i = 0; i < namespaceCount && !ended_; ++i) {
-        const std::wstring& prefix = declared.emplace_back(toWide(namespaces[2 * i]));
-        const std::wstring uri = detail::namespaceName(namespaces[2 * i + 1]);
+        const std::wstring& prefix = names_.name(nullptr, namespaces[2 * i]).localName;
+        declared.push_back(&prefix);
+        const std::wstring& uri = names_.namespaceName(namespaces[2 * i + 1]);
         deliver([&] {
             return content_->startPrefixMapping(prefix.c_str(), static_cast<int>(prefix.size()),
                                                 uri.c_str(), static_cast<int>(uri.size()));
@@ -320,25 +344,27 @@ void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
 void ParseSession::endElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri) {
     --depth_;
     if (content_ == nullptr) return;
-    const std::wstring ns = detail::namespaceName(uri);
-    const std::wstring local = toWide(localName);
-    const std::wstring qName = detail::qualifiedName(prefix, localName);
+    const std::wstring& ns = names_.namespaceName(uri);
+    const detail::WideName& name = names_.name(prefix, localName);
     deliver([&] {
-        return content_->endElement(ns.c_str(), static_cast<int>(ns.size()), local.c_str(),
-                                    static_cast<int>(local.size()), qName.c_str(),
-                                    static_cast<int>(qName.size()));
+        return content_->endElement(ns.c_str(), static_cast<int>(ns.size()), name.localName.c_str(),
+                                    static_cast<int>(name.localName.size()), name.qName.c_str(),
+                                    static_cast<int>(name.qName.size()));
     });
     if (prefixes_.empty()) return;
-    for (const std::wstring& prefix : prefixes_.back())
+    for (const std::wstring* prefix : prefixes_.back())
         deliver([&] {
-            return content_->endPrefixMapping(prefix.c_str(), static_cast<int>(prefix.size()));
+            return content_->endPrefixMapping(prefix->c_str(), static_cast<int>(prefix->size()));
         });
     prefixes_.pop_back();
 }
 
 void ParseSession::characters(const xmlChar* text, int length) {
-    const std::wstring chars = toWide(text, static_cast<std::size_t>(length));
-    deliver([&] { return content_->characters(chars.c_str(), static_cast<int>(chars.size())); });
+    ioutils::assignWideFromUtf8(characters_, std::string_view(reinterpret_cast<const char*>(text),
+                                                              static_cast<std::size_t>(length)));
+    deliver([&] {
+        return content_->characters(characters_.c_str(), static_cast<int>(characters_.size()));
+    });
 }
 
 void ParseSession::refuse(long code) {
@@ -443,11 +469,10 @@ long SAXXMLReader::putErrorHandler(ISAXErrorHandler* handler) {
 
 long SAXXMLReader::parse(const std::wstring& text) {
     errorDescription_.clear();
-    const std::string utf8 = detail::utf8ForParser(text);
     long result = S_OK;
     std::exception_ptr exception;
     {
-        ParseSession session(contentHandler_, errorHandler_, utf8);
+        ParseSession session(contentHandler_, errorHandler_, detail::textForParser(text));
         result = session.run();
         exception = session.exception();
         errorDescription_ = session.description();

@@ -11,7 +11,18 @@ namespace ioutils {
 // Malformed input never fails: each bad sequence or unencodable value
 // becomes U+FFFD.
 IOUTILS_API std::string utf8FromWide(std::wstring_view text);
+// The same appended to `out`.
+IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text);
+// The number of UTF-8 bytes utf8FromWide writes for `c`.
+// (U+FFFD, which replaces what cannot be encoded, takes three.) Free of
+// branches, so that loops summing it vectorize.
+inline std::size_t utf8Length(wchar_t c) {
+    const auto code = static_cast<char32_t>(c);
+    return 1 + (code >= 0x80) + (code >= 0x800) + (code >= 0x10000 && code <= 0x10FFFF);
+}
 IOUTILS_API std::wstring wideFromUtf8(std::string_view text);
+// The same into `out`, reusing its storage.
+IOUTILS_API void assignWideFromUtf8(std::wstring& out, std::string_view text);
 // UTF-16 code units in the given byte order, surrogate pairs joined.
 IOUTILS_API std::wstring wideFromUtf16(std::string_view bytes, bool bigEndian);
 
