@@ -2,7 +2,8 @@
 # Installs the Debian packages the build needs, and any named as arguments,
 # only those that are missing.
 set -euo pipefail
-packages=(g++ cmake make pkg-config libxml2-dev libgtest-dev libgmock-dev libbenchmark-dev clang-format "$@")
+packages=(g++ cmake make pkg-config libxml2-dev libgtest-dev libgmock-dev libbenchmark-dev clang-format
+    libcli11-dev nlohmann-json3-dev "$@")
 missing=()
 for package in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" ||

@@ -8,7 +8,7 @@ prefix="$PWD/$build_dir/install-root"
 rm -rf "$prefix" "$build_dir/consumer"
 cmake --install "$build_dir" --prefix "$prefix" >/dev/null
 # The installed tool starts from the prefix without help from the loader's path.
-env -u LD_LIBRARY_PATH "$prefix/bin/kazparse" examples/label-presentation.xml >/dev/null
+env -u LD_LIBRARY_PATH "$prefix/bin/kazcfg" check examples/label-presentation.xml >/dev/null
 cmake -S tests/install -B "$build_dir/consumer" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
 cmake --build "$build_dir/consumer" >/dev/null
 LD_LIBRARY_PATH="$prefix/lib" "$build_dir/consumer/consumer"
