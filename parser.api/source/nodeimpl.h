@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -33,12 +34,14 @@ public:
     bool isValid() const override { return true; }
 
     // The text is produced by writeXml into the node's own buffer, so that
-    // repeated calls allocate only for growth.
+    // repeated calls allocate only for growth. Most nodes are never asked,
+    // so the buffer is made on the first call.
     const std::wstring& toXml() const override {
-        xmlText_.clear();
-        tableobj::StringXmlWriter out(xmlText_);
+        if (!xmlText_) xmlText_ = std::make_unique<std::wstring>();
+        xmlText_->clear();
+        tableobj::StringXmlWriter out(*xmlText_);
         this->writeXml(out);
-        return xmlText_;
+        return *xmlText_;
     }
 
 protected:
@@ -63,7 +66,7 @@ protected:
 
 private:
     INodeCfg* parent_;
-    mutable std::wstring xmlText_;
+    mutable std::unique_ptr<std::wstring> xmlText_;
 };
 
 }  // namespace kaz::kazparser

@@ -25,7 +25,7 @@ StartTag& StartTag::number(const wchar_t* name, double value, bool present) {
     return *this;
 }
 
-StartTag& StartTag::always(const std::wstring& name, const std::wstring& value) {
+StartTag& StartTag::always(std::wstring_view name, std::wstring_view value) {
     tag_ += L' ';
     tag_ += name;
     tag_ += L"=\"";
@@ -40,7 +40,9 @@ std::wstring StartTag::str() {
 }
 
 std::wstring endTag(const std::wstring& name) {
-    return L"</" + name + L">";
+    std::wstring tag;
+    tag.reserve(name.size() + 3);
+    return tag.append(L"</").append(name).append(L">");
 }
 
 }  // namespace kaz::kazparser

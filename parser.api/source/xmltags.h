@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace kaz::kazparser {
 
@@ -17,7 +18,7 @@ public:
     // A number in fixed notation with four decimals, written when `present`.
     StartTag& number(const wchar_t* name, double value, bool present);
     // An attribute written whatever its value.
-    StartTag& always(const std::wstring& name, const std::wstring& value);
+    StartTag& always(std::wstring_view name, std::wstring_view value);
 
     // The finished tag; the builder is left empty.
     std::wstring str();
