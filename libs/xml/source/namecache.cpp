@@ -10,20 +10,27 @@ bool NameCache::interned(const xmlChar* text) const {
 
 namespace {
 
-template <class Map, class Make>
+// The entry of `key`, made on its first use. Only texts the dictionary owns
+// are remembered (checked once, when the entry is made: a pointer found in
+// the map is one of them); any other is made again on every call and kept
+// in `unshared` while the cache lives.
+template <class Map, class Interned, class Make, class Unshared>
 const typename Map::mapped_type& remembered(Map& map, const typename Map::key_type& key,
-                                            Make make) {
-    auto found = map.find(key);
-    if (found == map.end()) found = map.emplace(key, make()).first;
-    return found->second;
+                                            Interned interned, Make make, Unshared& unshared) {
+    if (auto found = map.find(key); found != map.end()) return found->second;
+    if (!interned()) return unshared.emplace_back(make());
+    return map.emplace(key, make()).first->second;
 }
 
 }  // namespace
 
 const WideName& NameCache::name(const xmlChar* prefix, const xmlChar* localName) {
-    const auto make = [&] { return WideName{toWide(localName), qualifiedName(prefix, localName)}; };
-    if (!interned(prefix) || !interned(localName)) return unshared_.emplace_back(make());
-    return remembered(names_, {prefix, localName}, make);
+    return remembered(
+        names_, {prefix, localName}, [&] { return interned(prefix) && interned(localName); },
+        [&] {
+            return WideName{toWide(localName), qualifiedName(prefix, localName)};
+        },
+        unshared_);
 }
 
 const WideName& NameCache::declarationName(const xmlChar* prefix) {
@@ -32,14 +39,14 @@ const WideName& NameCache::declarationName(const xmlChar* prefix) {
         std::wstring local = toWide(prefix);
         return WideName{local, L"xmlns:" + local};
     };
-    if (!interned(prefix)) return unshared_.emplace_back(make());
-    return remembered(declarations_, prefix, make);
+    return remembered(
+        declarations_, prefix, [&] { return interned(prefix); }, make, unshared_);
 }
 
 const std::wstring& NameCache::namespaceName(const xmlChar* uri) {
-    const auto make = [&] { return detail::namespaceName(uri); };
-    if (!interned(uri)) return unsharedNamespaces_.emplace_back(make());
-    return remembered(namespaces_, uri, make);
+    return remembered(
+        namespaces_, uri, [&] { return interned(uri); }, [&] { return detail::namespaceName(uri); },
+        unsharedNamespaces_);
 }
 
 }  // namespace kaz::xml::detail

@@ -37,7 +37,7 @@ std::wstring hex(long code) {
 // and "\r".
 class TextPositions {
 public:
-    explicit TextPositions(std::wstring_view text) : text_(text) {}
+    explicit TextPositions(std::wstring_view text) : text_(text), nextWide_(nextWideFrom(0)) {}
 
     // The position of the last "<" before UTF-8 byte `end`.
     std::pair<int, int> tagStartBefore(std::size_t end) {
@@ -48,50 +48,47 @@ public:
     }
 
 private:
-    // Moves the (characters, bytes) pair up to `end` bytes: in blocks while
-    // a whole block lies before it (every character takes a byte at least),
-    // then one character at a time.
+    // Moves the (characters, bytes) pair up to `end` bytes. A run of ASCII
+    // takes a byte a character, so only the other characters are measured.
     void mapBytes(std::size_t end) {
-        constexpr std::size_t kBlock = 16;
-        while (bytes_ + kBlock <= end && characters_ + kBlock <= text_.size()) {
-            std::size_t block = 0;
-            for (std::size_t i = 0; i < kBlock; ++i)
-                block += ioutils::utf8Length(text_[characters_ + i]);
-            if (bytes_ + block > end) break;
-            bytes_ += block;
-            characters_ += kBlock;
+        while (bytes_ < end && characters_ < text_.size()) {
+            if (characters_ == nextWide_) {
+                bytes_ += ioutils::utf8Length(text_[characters_++]);
+                nextWide_ = nextWideFrom(characters_);
+            } else {
+                const std::size_t run = std::min(nextWide_ - characters_, end - bytes_);
+                characters_ += run;
+                bytes_ += run;
+            }
         }
-        while (bytes_ < end && characters_ < text_.size())
-            bytes_ += ioutils::utf8Length(text_[characters_++]);
     }
 
+    // The first character at or after `from` that is not ASCII.
+    std::size_t nextWideFrom(std::size_t from) const {
+        std::size_t at = from;
+        while (at < text_.size() && static_cast<char32_t>(text_[at]) < 0x80) ++at;
+        return at;
+    }
+
+    // Counts the lines and columns up to `target` in one pass.
     void advanceTo(std::size_t target) {
         if (target < offset_) return;
-        const std::size_t from = std::exchange(offset_, target);
-        const std::wstring_view passed = text_.substr(from, target - from);
-        if (passed.find(L'\r') != passed.npos) {
-            for (std::size_t i = from; i < target; ++i) {
-                if (text_[i] == L'\n' || (text_[i] == L'\r' && text_[i + 1] != L'\n')) {
-                    ++line_;
-                    column_ = 1;
-                } else if (text_[i] != L'\r') {
-                    ++column_;
-                }
+        std::size_t lineStart = text_.npos;
+        for (std::size_t i = offset_; i < target; ++i) {
+            if (text_[i] == L'\n' || (text_[i] == L'\r' && text_[i + 1] != L'\n')) {
+                ++line_;
+                lineStart = i + 1;
             }
-            return;
         }
-        const std::size_t lastBreak = passed.rfind(L'\n');
-        if (lastBreak == passed.npos) {
-            column_ += static_cast<int>(passed.size());
-            return;
-        }
-        line_ += static_cast<int>(std::count(passed.begin(), passed.end(), L'\n'));
-        column_ = static_cast<int>(passed.size() - lastBreak);
+        column_ = lineStart == text_.npos ? column_ + static_cast<int>(target - offset_)
+                                          : 1 + static_cast<int>(target - lineStart);
+        offset_ = target;
     }
 
     std::wstring_view text_;
     std::size_t characters_ = 0;  // the characters that make up the first
     std::size_t bytes_ = 0;       // `bytes_` bytes of UTF-8
+    std::size_t nextWide_;        // the next character that is not ASCII
     std::size_t offset_ = 0;      // where line_ and column_ are
     int line_ = 1;
     int column_ = 1;
