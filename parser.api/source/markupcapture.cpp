@@ -108,17 +108,16 @@ std::wstring leadingMarkup(const ContentNode& element) {
 }
 
 void MarkupCapture::startElement(const ElementStart& element) {
-    ContentNode& parent = open();
-    ContentNode& child = parent.children.emplace_back();
+    ContentNode& child = addChild();
     child.name = element.name;
-    child.attributes = readAttributes(element);
+    readAttributes(element, child.attributes);
     open_.push_back(&child);
 }
 
 void MarkupCapture::characters(const std::wstring& text) {
-    auto& children = open().children;
-    if (children.empty() || !children.back().isText()) children.emplace_back();
-    children.back().text += text;
+    const auto& children = open().children;
+    if (children.empty() || !children.back().isText()) addChild().attributes.clear();
+    open().children.back().text += text;
 }
 
 void MarkupCapture::endElement() {
@@ -126,8 +125,26 @@ void MarkupCapture::endElement() {
 }
 
 void MarkupCapture::clear() {
-    root_.children.clear();
+    recycle(root_.children);
     open_.clear();
+}
+
+ContentNode& MarkupCapture::addChild() {
+    auto& children = open().children;
+    if (spares_.empty()) return children.emplace_back();
+    children.push_back(std::move(spares_.back()));
+    spares_.pop_back();
+    return children.back();
+}
+
+void MarkupCapture::recycle(std::vector<ContentNode>& nodes) {
+    for (ContentNode& node : nodes) {
+        recycle(node.children);
+        node.name.clear();
+        node.text.clear();
+        spares_.push_back(std::move(node));
+    }
+    nodes.clear();
 }
 
 std::wstring MarkupCapture::markup() const {

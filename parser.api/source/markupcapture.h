@@ -58,8 +58,15 @@ public:
 
 private:
     ContentNode& open() { return open_.empty() ? root_ : *open_.back(); }
+    // A new last child of the innermost open element, made from a spare.
+    ContentNode& addChild();
+    // Moves `nodes` and everything inside them to the spares.
+    void recycle(std::vector<ContentNode>& nodes);
 
     ContentNode root_;
+    // Nodes of earlier captures, kept with their storage: the values of a
+    // text repeat their shapes, so most captures allocate nothing.
+    std::vector<ContentNode> spares_;
     // The elements still open, innermost last; only the innermost one grows,
     // so the others stay where they are.
     std::vector<ContentNode*> open_;

@@ -46,10 +46,19 @@ bool isNamespaceDeclaration(std::wstring_view qName) {
 
 AttributeList readAttributes(const ElementStart& element) {
     AttributeList list;
-    forEachAttribute(
-        element, AttributeNaming::Qualified,
-        [&](std::wstring_view name, std::wstring_view value) { list.emplace_back(name, value); });
+    readAttributes(element, list);
     return list;
+}
+
+void readAttributes(const ElementStart& element, AttributeList& into) {
+    std::size_t count = 0;
+    forEachAttribute(element, AttributeNaming::Qualified,
+                     [&](std::wstring_view name, std::wstring_view value) {
+                         if (count == into.size()) into.emplace_back();
+                         into[count].first = name;
+                         into[count++].second = value;
+                     });
+    into.resize(count);
 }
 
 bool flagValue(std::wstring_view value) {

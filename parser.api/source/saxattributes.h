@@ -61,6 +61,8 @@ void forEachAttribute(const ElementStart& element, AttributeNaming naming, Visit
 
 // Every (qualified name, value) pair in document order, copied.
 AttributeList readAttributes(const ElementStart& element);
+// The same into `into`, reusing the storage of the pairs it holds.
+void readAttributes(const ElementStart& element, AttributeList& into);
 // An attribute flag: true exactly when the value, lowered, is "true".
 bool flagValue(std::wstring_view value);
 

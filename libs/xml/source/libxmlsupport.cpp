@@ -14,13 +14,26 @@ void ensureParserInitialized() {
     std::call_once(once, [] { xmlInitParser(); });
 }
 
+namespace {
+
+void configure(xmlParserCtxtPtr ctxt) {
+    xmlCtxtUseOptions(ctxt, kParseOptions);
+    xmlSwitchEncoding(ctxt, XML_CHAR_ENCODING_UTF8);
+}
+
+}  // namespace
+
 xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData) {
     ensureParserInitialized();
     xmlParserCtxtPtr ctxt = xmlCreatePushParserCtxt(&sax, userData, nullptr, 0, nullptr);
-    if (ctxt == nullptr) return nullptr;
-    xmlCtxtUseOptions(ctxt, kParseOptions);
-    xmlSwitchEncoding(ctxt, XML_CHAR_ENCODING_UTF8);
+    if (ctxt != nullptr) configure(ctxt);
     return ctxt;
+}
+
+bool resetPushParser(xmlParserCtxtPtr ctxt) {
+    if (xmlCtxtResetPush(ctxt, nullptr, 0, nullptr, nullptr) != 0) return false;
+    configure(ctxt);
+    return true;
 }
 
 void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop) {

@@ -25,6 +25,9 @@ void ensureParserInitialized();
 // context itself), under kParseOptions, told that the text is UTF-8.
 // Null when out of memory.
 xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData);
+// Makes a context whose last parse ended ready for a new text, keeping its
+// handler, user data and dictionary; false when out of memory.
+bool resetPushParser(xmlParserCtxtPtr ctxt);
 // Feeds the text as UTF-8 in pieces of at most 64 KiB, the last one ending
 // the document; stops early once `stop` turns true.
 void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop);

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <exception>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -135,9 +136,27 @@ private:
     std::optional<std::pair<int, int>> startTag_;
 };
 
+// A parser context with the names its dictionary holds, kept by each thread
+// from one parse to the next: making a context and converting the same
+// names again is most of what a small text costs. It is kept only after a
+// parse that ended well, and only while its dictionary stays small.
+struct ReusableParser {
+    xmlParserCtxtPtr ctxt = nullptr;
+    detail::NameCache names;
+
+    ReusableParser() = default;
+    ReusableParser(const ReusableParser&) = delete;
+    ReusableParser& operator=(const ReusableParser&) = delete;
+    ~ReusableParser() { xmlFreeParserCtxt(ctxt); }
+};
+
+constexpr int kMostNamesKept = 4096;
+thread_local std::unique_ptr<ReusableParser> spareParser;
+
 // One parse: the libxml2 push parser context and everything its callbacks
 // need (reached through the context's user data). No exception ever leaves a
-// callback into libxml2; it is kept and rethrown once the context is freed.
+// callback into libxml2; it is kept and rethrown once the context is put
+// aside.
 class ParseSession {
 public:
     ParseSession(ISAXContentHandler* content, ISAXErrorHandler* errors, std::wstring_view text)
@@ -146,8 +165,9 @@ public:
         if (ctxt_ == nullptr) return;
         // Once SAX is off, libxml2 may build a document of its own to keep
         // the declarations it still reads (after a version or namespace error).
-        xmlFreeDoc(ctxt_->myDoc);
-        xmlFreeParserCtxt(ctxt_);
+        xmlFreeDoc(std::exchange(ctxt_->myDoc, nullptr));
+        if (!ended_ && ctxt_->wellFormed != 0 && xmlDictSize(ctxt_->dict) <= kMostNamesKept)
+            spareParser = std::move(parser_);
     }
     ParseSession(const ParseSession&) = delete;
     ParseSession& operator=(const ParseSession&) = delete;
@@ -195,13 +215,13 @@ private:
                                  const xmlChar* systemId);
     static void onError(void* userData, xmlErrorPtr error);
 
-    xmlParserCtxtPtr ctxt_ = nullptr;
+    std::unique_ptr<ReusableParser> parser_;
+    xmlParserCtxtPtr ctxt_ = nullptr;  // the parser's
     ISAXContentHandler* content_;
     ISAXErrorHandler* errors_;
     std::wstring_view text_;
     TextPositions positions_;
     Locator locator_;
-    detail::NameCache names_;
     detail::SAXAttributes attributes_;
     // Prefixes declared by each open element, for endPrefixMapping.
     std::vector<std::vector<const std::wstring*>> prefixes_;
@@ -243,10 +263,18 @@ long ParseSession::run() {
 }
 
 bool ParseSession::open() {
-    ctxt_ = detail::openPushParser(makeHandler(), this);
-    if (ctxt_ == nullptr) return false;
+    parser_ = std::move(spareParser);
+    if (parser_ != nullptr && !detail::resetPushParser(parser_->ctxt)) parser_.reset();
+    if (parser_ == nullptr) {
+        auto made = std::make_unique<ReusableParser>();
+        made->ctxt = detail::openPushParser(makeHandler(), nullptr);
+        if (made->ctxt == nullptr) return false;
+        made->names.attach(made->ctxt->dict);
+        parser_ = std::move(made);
+    }
+    ctxt_ = parser_->ctxt;
+    ctxt_->userData = this;
     locator_.attach(ctxt_);
-    names_.attach(ctxt_->dict);
     return true;
 }
 
@@ -310,9 +338,9 @@ void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
     if (++depth_ > SAXXMLReader::kMaxDepth) return refuse(XML_E_TOO_DEEP);
     if (content_ == nullptr) return;
     mapPrefixes(namespaceCount, namespaces);
-    attributes_.assign(names_, namespaceCount, namespaces, attributeCount, attributes);
-    const std::wstring& ns = names_.namespaceName(uri);
-    const detail::WideName& name = names_.name(prefix, localName);
+    attributes_.assign(parser_->names, namespaceCount, namespaces, attributeCount, attributes);
+    const std::wstring& ns = parser_->names.namespaceName(uri);
+    const detail::WideName& name = parser_->names.name(prefix, localName);
     // libxml2 reports a start tag once it has read it: its "<" lies before.
     locator_.setStartTag(
         positions_.tagStartBefore(static_cast<std::size_t>(xmlByteConsumed(ctxt_))));
@@ -328,9 +356,9 @@ void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix,
 void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
     std::vector<const std::wstring*>& declared = prefixes_.emplace_back();
     for (int i = 0; i < namespaceCount && !ended_; ++i) {
-        const std::wstring& prefix = names_.name(nullptr, namespaces[2 * i]).localName;
+        const std::wstring& prefix = parser_->names.name(nullptr, namespaces[2 * i]).localName;
         declared.push_back(&prefix);
-        const std::wstring& uri = names_.namespaceName(namespaces[2 * i + 1]);
+        const std::wstring& uri = parser_->names.namespaceName(namespaces[2 * i + 1]);
         deliver([&] {
             return content_->startPrefixMapping(prefix.c_str(), static_cast<int>(prefix.size()),
                                                 uri.c_str(), static_cast<int>(uri.size()));
@@ -341,8 +369,8 @@ void ParseSession::mapPrefixes(int namespaceCount, const xmlChar** namespaces) {
 void ParseSession::endElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri) {
     --depth_;
     if (content_ == nullptr) return;
-    const std::wstring& ns = names_.namespaceName(uri);
-    const detail::WideName& name = names_.name(prefix, localName);
+    const std::wstring& ns = parser_->names.namespaceName(uri);
+    const detail::WideName& name = parser_->names.name(prefix, localName);
     deliver([&] {
         return content_->endElement(ns.c_str(), static_cast<int>(ns.size()), name.localName.c_str(),
                                     static_cast<int>(name.localName.size()), name.qName.c_str(),
