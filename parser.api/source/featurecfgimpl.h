@@ -42,7 +42,7 @@ public:
 private:
     FeatureCfgImpl(const FeatureCfgImpl& other) = default;
 
-    std::wstring name_;
+    SharedName name_;
     std::wstring attributesText_;
     std::wstring value_;
 };

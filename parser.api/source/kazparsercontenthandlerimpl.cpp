@@ -77,21 +77,16 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     flushText();
     KAZSAXAttributesImpl copy(attributes);
     replaceRootDirectory(copy);
-    const std::wstring& name = nameOf(qName, qNameLength);
+    const SharedName name = elementName(qName, qNameLength);
     if (capturing()) {
         captureStart(name, copy);
     } else if (const kinds::Kind* kind = chooseKind(name, nextParent())) {
         openNode(*kind, name, copy);
     } else {
         pushNoNode();
-        addError(L"\nCan not create <" + name + L">\n");
+        addError(L"\nCan not create <" + name.str() + L">\n");
     }
     return kaz::xml::S_OK;
-}
-
-const std::wstring& KAZParserContentHandlerImpl::nameOf(const wchar_t* qName, int length) {
-    elementName_.assign(qName, static_cast<std::size_t>(length));
-    return elementName_;
 }
 
 const kinds::Kind* KAZParserContentHandlerImpl::chooseKind(const std::wstring& name,
@@ -108,7 +103,7 @@ const kinds::Kind* KAZParserContentHandlerImpl::chooseKind(const std::wstring& n
     return &kinds::of(INodeCfg::XNode);
 }
 
-void KAZParserContentHandlerImpl::openNode(const kinds::Kind& kind, const std::wstring& name,
+void KAZParserContentHandlerImpl::openNode(const kinds::Kind& kind, const SharedName& name,
                                            KAZSAXAttributesImpl& attributes) {
     const kinds::Made made = kind.make({name, &attributes, startTagLocation()}, nextParent());
     push(made.node, made.content, static_cast<int>(kind.content));
@@ -123,12 +118,12 @@ bool KAZParserContentHandlerImpl::capturing() const {
     return mode() == Mode::Raw || collectsContent(mode());
 }
 
-void KAZParserContentHandlerImpl::captureStart(const std::wstring& name,
+void KAZParserContentHandlerImpl::captureStart(const SharedName& name,
                                                KAZSAXAttributesImpl& attributes) {
     ++nested_;
     const ElementStart element{name, &attributes, {}};
     if (mode() == Mode::Raw)
-        topContent()->appendText(L'<' + name + FeatureCfgImpl::attributeText(element) + L'>');
+        topContent()->appendText(L'<' + name.str() + FeatureCfgImpl::attributeText(element) + L'>');
     else
         captured_.startElement(element);
 }
@@ -144,7 +139,7 @@ void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength) {
     flushText();
-    const std::wstring& name = nameOf(qName, qNameLength);
+    const SharedName name = elementName(qName, qNameLength);
     if (nested_ > 0) {
         captureEnd(name);
         return kaz::xml::S_OK;

@@ -49,16 +49,13 @@ private:
     // Markup and Value collect the content whole, to hand it over at the end.
     static bool collectsContent(Mode mode);
 
-    // The name of the element being reported, in a buffer reused from
-    // event to event.
-    const std::wstring& nameOf(const wchar_t* qName, int length);
     // The kind of the element `name`, made with `parent`; null when it
     // makes no node.
     const kinds::Kind* chooseKind(const std::wstring& name, INodeCfg* parent);
-    void openNode(const kinds::Kind& kind, const std::wstring& name,
+    void openNode(const kinds::Kind& kind, const SharedName& name,
                   KAZSAXAttributesImpl& attributes);
     // An element inside a capturing node's element.
-    void captureStart(const std::wstring& name, KAZSAXAttributesImpl& attributes);
+    void captureStart(const SharedName& name, KAZSAXAttributesImpl& attributes);
     void captureEnd(const std::wstring& name);
     void attachToParent(INodeCfg* child, const std::wstring& name);
     static bool takeSampleData(INodeCfg* parent, INodeCfg* child);
@@ -86,7 +83,6 @@ private:
     int nested_ = 0;
     MarkupCapture captured_;
     std::wstring pendingText_;
-    std::wstring elementName_;
 };
 
 }  // namespace kaz::kazparser

@@ -84,7 +84,7 @@ private:
     template <class Value, class T>
     void readValue(const std::wstring& name, T& out) const;
 
-    std::wstring elementName_;
+    SharedName elementName_;
     std::wstring displayName_;
     std::wstring name_;
     std::wstring nameStringID_;

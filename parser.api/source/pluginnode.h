@@ -88,12 +88,12 @@ protected:
 
 private:
     std::wstring writtenName() const {
-        return name_.empty() ? kinds::tag(Derived::kNodeType) : name_;
+        return name_.empty() ? kinds::tag(Derived::kNodeType) : name_.str();
     }
 
     std::wstring engineFile_;
     std::wstring engineID_;
-    std::wstring name_;
+    SharedName name_;
     std::wstring note_;
 };
 

@@ -51,7 +51,7 @@ private:
     template <class Scalar, class Make>
     void assign(const typename Scalar::ValueType& value, Make make);
 
-    std::wstring name_;
+    SharedName name_;
     std::unique_ptr<tableobj::IElement> value_;
 };
 

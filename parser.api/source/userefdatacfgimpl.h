@@ -38,7 +38,7 @@ public:
 private:
     UseRefDataCfgImpl(const UseRefDataCfgImpl& other) = default;
 
-    std::wstring name_;
+    SharedName name_;
     std::wstring reference_;
 };
 

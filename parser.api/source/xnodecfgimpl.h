@@ -60,7 +60,7 @@ private:
     [[noreturn]] void unreadable(const std::wstring& childName, const std::wstring& text,
                                  const wchar_t* what) const;
 
-    std::wstring name_;
+    SharedName name_;
     AttributeList attributes_;
     std::wstring text_;
 };
