@@ -32,10 +32,10 @@ void KAZParserContentHandlerImpl::addError(const std::wstring& text) {
     errorFlag_ = true;
 }
 
-void KAZParserContentHandlerImpl::addException(const std::wstring& name,
+void KAZParserContentHandlerImpl::addException(std::wstring_view name,
                                                kazexception::IKAZException* e) {
     kazexception::ExceptionGuard guard(e);
-    addError(L"\nexception occorred at <" + name + L">\n" + e->getMessage());
+    addError(L"\nexception occorred at <" + std::wstring(name) + L">\n" + e->getMessage());
 }
 
 // One pass into a new string: replacing in place would move the rest of the
@@ -128,10 +128,10 @@ void KAZParserContentHandlerImpl::captureStart(const SharedName& name,
         captured_.startElement(element);
 }
 
-void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {
+void KAZParserContentHandlerImpl::captureEnd(std::wstring_view name) {
     --nested_;
     if (mode() == Mode::Raw)
-        topContent()->appendText(endTag(name));
+        topContent()->appendText(endTag(std::wstring(name)));
     else
         captured_.endElement();
 }
@@ -139,7 +139,7 @@ void KAZParserContentHandlerImpl::captureEnd(const std::wstring& name) {
 long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength) {
     flushText();
-    const SharedName name = elementName(qName, qNameLength);
+    const std::wstring_view name(qName, static_cast<std::size_t>(qNameLength));
     if (nested_ > 0) {
         captureEnd(name);
         return kaz::xml::S_OK;
@@ -154,7 +154,7 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
     return kaz::xml::S_OK;
 }
 
-void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, const std::wstring& name) {
+void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, std::wstring_view name) {
     INodeCfg* parent = top();
     try {
         if (takeSampleData(parent, child) || parent->setChild(child)) return;
@@ -192,7 +192,7 @@ void KAZParserContentHandlerImpl::flushText() {
     pendingText_.clear();
 }
 
-void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {
+void KAZParserContentHandlerImpl::finishCapture(std::wstring_view name) {
     try {
         if (mode() == Mode::Value)
             topContent()->takeValue(readDataValue(name));
@@ -206,7 +206,7 @@ void KAZParserContentHandlerImpl::finishCapture(const std::wstring& name) {
 
 // The content was collected as the reader delivered it; a "Tables" element
 // holding lists of tables is read as a collection of them.
-tableobj::IElement* KAZParserContentHandlerImpl::readDataValue(const std::wstring& name) const {
+tableobj::IElement* KAZParserContentHandlerImpl::readDataValue(std::wstring_view name) const {
     using tableobj::IElement;
     IElement::ElementType type = UseDataCfgImpl::typeOfElement(name);
     const ContentNode& content = captured_.content();

@@ -56,11 +56,11 @@ private:
                   KAZSAXAttributesImpl& attributes);
     // An element inside a capturing node's element.
     void captureStart(const SharedName& name, KAZSAXAttributesImpl& attributes);
-    void captureEnd(const std::wstring& name);
-    void attachToParent(INodeCfg* child, const std::wstring& name);
+    void captureEnd(std::wstring_view name);
+    void attachToParent(INodeCfg* child, std::wstring_view name);
     static bool takeSampleData(INodeCfg* parent, INodeCfg* child);
     void addError(const std::wstring& text);
-    void addException(const std::wstring& name, kazexception::IKAZException* e);
+    void addException(std::wstring_view name, kazexception::IKAZException* e);
     // Replaces every "[Kestrelon.RootDirectory]" by the root directory.
     void replaceRootDirectory(std::wstring& text);
     void replaceRootDirectory(KAZSAXAttributesImpl& attributes);
@@ -69,9 +69,9 @@ private:
     void flushText();
     // At the end of a data value's or reference's element: hands the
     // captured content to its node (the top node).
-    void finishCapture(const std::wstring& name);
+    void finishCapture(std::wstring_view name);
     // The value of the data element `name` from the captured content.
-    tableobj::IElement* readDataValue(const std::wstring& name) const;
+    tableobj::IElement* readDataValue(std::wstring_view name) const;
 
     bool errorFlag_ = false;
     std::wstring errorText_;

@@ -65,7 +65,7 @@ const wchar_t* UseDataCfgImpl::elementNameOf(IElement::ElementType type) {
     return L"";
 }
 
-IElement::ElementType UseDataCfgImpl::typeOfElement(const std::wstring& name) {
+IElement::ElementType UseDataCfgImpl::typeOfElement(std::wstring_view name) {
     for (const auto& [type, known] : kElementNames)
         if (name == known) return type;
     return IElement::NoValue;

@@ -41,7 +41,7 @@ public:
     // The element name of a value type; empty for the types without one.
     static const wchar_t* elementNameOf(tableobj::IElement::ElementType type);
     // The value type an element name stands for; NoValue for other names.
-    static tableobj::IElement::ElementType typeOfElement(const std::wstring& name);
+    static tableobj::IElement::ElementType typeOfElement(std::wstring_view name);
 
 private:
     UseDataCfgImpl(const UseDataCfgImpl& other);
