@@ -32,7 +32,7 @@ std::wstring FeatureCfgImpl::attributeText(const ElementStart& element) {
 
 // A name set empty still writes a well-formed tag.
 const std::wstring& FeatureCfgImpl::getName() const {
-    return name_.empty() ? defaultName() : name_.str();
+    return name_.empty() ? defaultName() : name_;
 }
 
 bool FeatureCfgImpl::writeXml(IXmlWriter& out) const {

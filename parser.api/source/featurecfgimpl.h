@@ -42,7 +42,7 @@ public:
 private:
     FeatureCfgImpl(const FeatureCfgImpl& other) = default;
 
-    SharedName name_;
+    std::wstring name_;
     std::wstring attributesText_;
     std::wstring value_;
 };

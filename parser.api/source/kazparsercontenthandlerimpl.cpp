@@ -77,16 +77,21 @@ long KAZParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_
     flushText();
     KAZSAXAttributesImpl copy(attributes);
     replaceRootDirectory(copy);
-    const SharedName name = elementName(qName, qNameLength);
+    const std::wstring& name = nameOf(qName, qNameLength);
     if (capturing()) {
         captureStart(name, copy);
     } else if (const kinds::Kind* kind = chooseKind(name, nextParent())) {
         openNode(*kind, name, copy);
     } else {
         pushNoNode();
-        addError(L"\nCan not create <" + name.str() + L">\n");
+        addError(L"\nCan not create <" + name + L">\n");
     }
     return kaz::xml::S_OK;
+}
+
+const std::wstring& KAZParserContentHandlerImpl::nameOf(const wchar_t* qName, int length) {
+    elementName_.assign(qName, static_cast<std::size_t>(length));
+    return elementName_;
 }
 
 const kinds::Kind* KAZParserContentHandlerImpl::chooseKind(const std::wstring& name,
@@ -103,7 +108,7 @@ const kinds::Kind* KAZParserContentHandlerImpl::chooseKind(const std::wstring& n
     return &kinds::of(INodeCfg::XNode);
 }
 
-void KAZParserContentHandlerImpl::openNode(const kinds::Kind& kind, const SharedName& name,
+void KAZParserContentHandlerImpl::openNode(const kinds::Kind& kind, const std::wstring& name,
                                            KAZSAXAttributesImpl& attributes) {
     const kinds::Made made = kind.make({name, &attributes, startTagLocation()}, nextParent());
     push(made.node, made.content, static_cast<int>(kind.content));
@@ -118,12 +123,12 @@ bool KAZParserContentHandlerImpl::capturing() const {
     return mode() == Mode::Raw || collectsContent(mode());
 }
 
-void KAZParserContentHandlerImpl::captureStart(const SharedName& name,
+void KAZParserContentHandlerImpl::captureStart(const std::wstring& name,
                                                KAZSAXAttributesImpl& attributes) {
     ++nested_;
     const ElementStart element{name, &attributes, {}};
     if (mode() == Mode::Raw)
-        topContent()->appendText(L'<' + name.str() + FeatureCfgImpl::attributeText(element) + L'>');
+        topContent()->appendText(L'<' + name + FeatureCfgImpl::attributeText(element) + L'>');
     else
         captured_.startElement(element);
 }

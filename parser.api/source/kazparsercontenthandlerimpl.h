@@ -49,13 +49,16 @@ private:
     // Markup and Value collect the content whole, to hand it over at the end.
     static bool collectsContent(Mode mode);
 
+    // The name of the element being reported, in a buffer reused from
+    // event to event.
+    const std::wstring& nameOf(const wchar_t* qName, int length);
     // The kind of the element `name`, made with `parent`; null when it
     // makes no node.
     const kinds::Kind* chooseKind(const std::wstring& name, INodeCfg* parent);
-    void openNode(const kinds::Kind& kind, const SharedName& name,
+    void openNode(const kinds::Kind& kind, const std::wstring& name,
                   KAZSAXAttributesImpl& attributes);
     // An element inside a capturing node's element.
-    void captureStart(const SharedName& name, KAZSAXAttributesImpl& attributes);
+    void captureStart(const std::wstring& name, KAZSAXAttributesImpl& attributes);
     void captureEnd(std::wstring_view name);
     void attachToParent(INodeCfg* child, std::wstring_view name);
     static bool takeSampleData(INodeCfg* parent, INodeCfg* child);
@@ -83,6 +86,7 @@ private:
     int nested_ = 0;
     MarkupCapture captured_;
     std::wstring pendingText_;
+    std::wstring elementName_;
 };
 
 }  // namespace kaz::kazparser

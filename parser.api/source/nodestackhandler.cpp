@@ -1,9 +1,5 @@
 #include "nodestackhandler.h"
 
-#include <string>
-#include <string_view>
-#include <unordered_map>
-
 namespace kaz::kazparser {
 
 NodeStackHandler::~NodeStackHandler() {
@@ -23,30 +19,6 @@ SourceLocation NodeStackHandler::startTagLocation() const {
     if (startTags_ == nullptr || kaz::xml::failed(startTags_->getStartTagPosition(&line, &column)))
         return {0, 0};
     return {static_cast<unsigned>(line), static_cast<unsigned>(column)};
-}
-
-namespace {
-
-struct NameHash {
-    using is_transparent = void;
-    std::size_t operator()(std::wstring_view name) const noexcept {
-        return std::hash<std::wstring_view>()(name);
-    }
-};
-
-// Beyond this many names a text is not of the common vocabulary: the table
-// starts again rather than grow with it.
-constexpr std::size_t kMostSharedNames = 4096;
-
-}  // namespace
-
-SharedName NodeStackHandler::elementName(const wchar_t* qName, int length) {
-    thread_local std::unordered_map<std::wstring, SharedName, NameHash, std::equal_to<>> names;
-    const std::wstring_view name(qName, static_cast<std::size_t>(length));
-    auto found = names.find(name);
-    if (found != names.end()) return found->second;
-    if (names.size() >= kMostSharedNames) names.clear();
-    return names.emplace(name, SharedName(name)).first->second;
 }
 
 INodeCfg* NodeStackHandler::pop() {

@@ -6,7 +6,6 @@
 #include "kazparser/INodeCfg.h"
 #include "kazparser/SourceLocation.h"
 #include "kazxml/SAX.h"
-#include "sharedname.h"
 
 namespace kaz::kazparser {
 
@@ -46,10 +45,6 @@ protected:
     // Where the element being started begins; line 0 when the reader does
     // not tell.
     SourceLocation startTagLocation() const;
-    // The element name `qName`: one string per distinct name, shared by the
-    // parses of a thread (up to a bound), since hosts read many texts of
-    // the same vocabulary.
-    static SharedName elementName(const wchar_t* qName, int length);
     INodeCfg* factoryParent() const { return parent_; }
     // The node of the innermost open element that made one; null when none.
     INodeCfg* top() const { return stack_.empty() ? nullptr : stack_.back().node; }

@@ -29,7 +29,7 @@ ParamSetCfgImpl::ParamSetCfgImpl(const ElementStart& element, INodeCfg* parent)
 
 const std::wstring& ParamSetCfgImpl::getName() const {
     const std::wstring& defaultName = kinds::tag(INodeCfg::ParamSet);
-    return elementName_.empty() ? defaultName : elementName_.str();
+    return elementName_.empty() ? defaultName : elementName_;
 }
 
 bool ParamSetCfgImpl::writeXml(IXmlWriter& out) const {

@@ -84,7 +84,7 @@ private:
     template <class Value, class T>
     void readValue(const std::wstring& name, T& out) const;
 
-    SharedName elementName_;
+    std::wstring elementName_;
     std::wstring displayName_;
     std::wstring name_;
     std::wstring nameStringID_;

@@ -88,12 +88,12 @@ protected:
 
 private:
     std::wstring writtenName() const {
-        return name_.empty() ? kinds::tag(Derived::kNodeType) : name_.str();
+        return name_.empty() ? kinds::tag(Derived::kNodeType) : name_;
     }
 
     std::wstring engineFile_;
     std::wstring engineID_;
-    SharedName name_;
+    std::wstring name_;
     std::wstring note_;
 };
 

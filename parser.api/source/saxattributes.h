@@ -7,7 +7,6 @@
 
 #include "kazparser/SourceLocation.h"
 #include "kazxml/SAX.h"
-#include "sharedname.h"
 
 namespace kaz::kazparser {
 
@@ -17,7 +16,7 @@ using AttributeList = std::vector<std::pair<std::wstring, std::wstring>>;
 // root-directory macro already replaced; may be null) and where its start
 // tag is. Every kind made from an element is constructed from this.
 struct ElementStart {
-    const SharedName& name;
+    const std::wstring& name;
     kaz::xml::ISAXAttributes* attributes;
     SourceLocation where;
 };

@@ -37,7 +37,7 @@ UseDataCfgImpl::UseDataCfgImpl(const UseDataCfgImpl& other)
 
 const std::wstring& UseDataCfgImpl::getName() const {
     const std::wstring& defaultName = kinds::tag(INodeCfg::UseData);
-    return name_.empty() ? defaultName : name_.str();
+    return name_.empty() ? defaultName : name_;
 }
 
 INodeCfg* UseDataCfgImpl::clone() const {
@@ -73,7 +73,7 @@ IElement::ElementType UseDataCfgImpl::typeOfElement(std::wstring_view name) {
 
 void UseDataCfgImpl::nameAfter(const IElement& value) {
     const wchar_t* name = elementNameOf(value.getElementType());
-    if (*name != L'\0' && name_.str() != name) name_ = name;
+    if (*name != L'\0') name_ = name;
 }
 
 void UseDataCfgImpl::setValue(IElement* value) {

@@ -51,7 +51,7 @@ private:
     template <class Scalar, class Make>
     void assign(const typename Scalar::ValueType& value, Make make);
 
-    SharedName name_;
+    std::wstring name_;
     std::unique_ptr<tableobj::IElement> value_;
 };
 

@@ -38,7 +38,7 @@ public:
 private:
     UseRefDataCfgImpl(const UseRefDataCfgImpl& other) = default;
 
-    SharedName name_;
+    std::wstring name_;
     std::wstring reference_;
 };
 

@@ -51,7 +51,7 @@ XNodeCfgImpl::XNodeCfgImpl(const ElementStart& element, INodeCfg* parent)
 
 const std::wstring& XNodeCfgImpl::getName() const {
     const std::wstring& defaultName = kinds::tag(INodeCfg::XNode);
-    return name_.empty() ? defaultName : name_.str();
+    return name_.empty() ? defaultName : name_;
 }
 
 INodeCfg* XNodeCfgImpl::clone() const {

@@ -60,7 +60,7 @@ private:
     [[noreturn]] void unreadable(const std::wstring& childName, const std::wstring& text,
                                  const wchar_t* what) const;
 
-    SharedName name_;
+    std::wstring name_;
     AttributeList attributes_;
     std::wstring text_;
 };

@@ -14,7 +14,7 @@ constexpr const wchar_t* kClassName = L"kaz::kazparser::XParserContentHandlerImp
 long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*, int,
                                              const wchar_t* qName, int qNameLength,
                                              kaz::xml::ISAXAttributes* attributes) {
-    const SharedName name = elementName(qName, qNameLength);
+    const std::wstring name(qName, static_cast<std::size_t>(qNameLength));
     const ElementStart element{name, attributes, startTagLocation()};
     std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(element, nextParent()));
     node->locate(element.where);
