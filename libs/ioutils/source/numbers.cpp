@@ -54,10 +54,6 @@ std::size_t decimalLength(std::wstring_view text, std::size_t pos) {
     return end - pos;
 }
 
-std::wstring wideFromAscii(const char* begin, const char* end) {
-    return std::wstring(begin, end);
-}
-
 }  // namespace
 
 double parseDouble(std::wstring_view text) {
@@ -139,23 +135,41 @@ bool readInt(std::wstring_view text, int& value) {
     return true;
 }
 
-std::wstring formatFixed4(double value) {
+void appendFixed4(std::wstring& out, double value) {
     char buffer[400];
     const auto result =
         std::to_chars(buffer, buffer + sizeof(buffer), value, std::chars_format::fixed, 4);
-    return wideFromAscii(buffer, result.ptr);
+    out.append(buffer, result.ptr);
+}
+
+void appendShortest(std::wstring& out, double value) {
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    out.append(buffer, result.ptr);
+}
+
+void appendInt(std::wstring& out, long long value) {
+    char buffer[32];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    out.append(buffer, result.ptr);
+}
+
+std::wstring formatFixed4(double value) {
+    std::wstring text;
+    appendFixed4(text, value);
+    return text;
 }
 
 std::wstring formatShortest(double value) {
-    char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    return wideFromAscii(buffer, result.ptr);
+    std::wstring text;
+    appendShortest(text, value);
+    return text;
 }
 
 std::wstring formatInt(long long value) {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    return wideFromAscii(buffer, result.ptr);
+    std::wstring text;
+    appendInt(text, value);
+    return text;
 }
 
 }  // namespace ioutils
