@@ -5,21 +5,24 @@
 
 namespace kaz::kazparser {
 
+using namespace std::string_view_literals;
+
 StartTag::StartTag(std::wstring& out, std::wstring_view name) : out_(out) {
-    out_.append(L"<").append(name);
+    out_ += L'<';
+    out_ += name;
 }
 
-StartTag& StartTag::text(const wchar_t* name, const std::wstring& value) {
+StartTag& StartTag::text(AttributeName name, const std::wstring& value) {
     if (!value.empty()) always(name, value);
     return *this;
 }
 
-StartTag& StartTag::flag(const wchar_t* name, bool value) {
-    if (value) always(name, L"true");
+StartTag& StartTag::flag(AttributeName name, bool value) {
+    if (value) always(name, L"true"sv);
     return *this;
 }
 
-StartTag& StartTag::number(const wchar_t* name, double value, bool present) {
+StartTag& StartTag::number(AttributeName name, double value, bool present) {
     if (!present) return *this;
     return attribute(name, [value](std::wstring& text) { ioutils::appendFixed4(text, value); });
 }
@@ -29,7 +32,7 @@ StartTag& StartTag::always(std::wstring_view name, std::wstring_view value) {
 }
 
 void appendEndTag(std::wstring& out, std::wstring_view name) {
-    out.append(L"</").append(name).append(L">");
+    out.append(L"</"sv).append(name) += L'>';
 }
 
 std::wstring endTag(std::wstring_view name) {

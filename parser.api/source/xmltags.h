@@ -1,11 +1,23 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "tableobj/IXmlWriter.h"
 
 namespace kaz::kazparser {
+
+// An attribute name spelled in the code, its length counted when compiling.
+class AttributeName {
+public:
+    template <std::size_t N>
+    consteval AttributeName(const wchar_t (&name)[N]) : view_(name, N - 1) {}
+    operator std::wstring_view() const { return view_; }
+
+private:
+    std::wstring_view view_;
+};
 
 // Appends a start tag to `out`: "<" name, then each present attribute as
 // ` name="value"`. Values are written as given; the tag is left open.
@@ -14,17 +26,20 @@ public:
     StartTag(std::wstring& out, std::wstring_view name);
 
     // A text attribute, written when not empty.
-    StartTag& text(const wchar_t* name, const std::wstring& value);
+    StartTag& text(AttributeName name, const std::wstring& value);
     // A flag, written as "true" when set and never when clear.
-    StartTag& flag(const wchar_t* name, bool value);
+    StartTag& flag(AttributeName name, bool value);
     // A number in fixed notation with four decimals, written when `present`.
-    StartTag& number(const wchar_t* name, double value, bool present);
+    StartTag& number(AttributeName name, double value, bool present);
     // An attribute written whatever its value.
     StartTag& always(std::wstring_view name, std::wstring_view value);
     // An attribute whose value `appendValue(std::wstring&)` appends.
     template <class AppendValue>
     StartTag& attribute(std::wstring_view name, AppendValue&& appendValue) {
-        out_.append(L" ").append(name).append(L"=\"");
+        out_ += L' ';
+        out_ += name;
+        out_ += L'=';
+        out_ += L'"';
         appendValue(out_);
         out_ += L'"';
         return *this;

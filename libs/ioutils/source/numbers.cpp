@@ -1,6 +1,7 @@
 #include "ioutils/Numbers.h"
 
 #include <locale.h>
+#include <algorithm>
 #include <charconv>
 #include <climits>
 #include <clocale>
@@ -135,23 +136,34 @@ bool readInt(std::wstring_view text, int& value) {
     return true;
 }
 
+namespace {
+
+// Widens the characters to_chars wrote, in place at the end of `out`.
+void appendChars(std::wstring& out, const char* begin, const char* end) {
+    const std::size_t at = out.size();
+    out.resize(at + static_cast<std::size_t>(end - begin));
+    std::copy(begin, end, out.begin() + static_cast<std::ptrdiff_t>(at));
+}
+
+}  // namespace
+
 void appendFixed4(std::wstring& out, double value) {
     char buffer[400];
     const auto result =
         std::to_chars(buffer, buffer + sizeof(buffer), value, std::chars_format::fixed, 4);
-    out.append(buffer, result.ptr);
+    appendChars(out, buffer, result.ptr);
 }
 
 void appendShortest(std::wstring& out, double value) {
     char buffer[64];
     const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    out.append(buffer, result.ptr);
+    appendChars(out, buffer, result.ptr);
 }
 
 void appendInt(std::wstring& out, long long value) {
     char buffer[32];
     const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    out.append(buffer, result.ptr);
+    appendChars(out, buffer, result.ptr);
 }
 
 std::wstring formatFixed4(double value) {

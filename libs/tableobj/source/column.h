@@ -59,16 +59,17 @@ public:
         return true;
     }
     bool writeXml(IXmlWriter& out) const override {
+        using namespace std::string_view_literals;
         const TagAttributes attributes{this->getName(), this->getDesc(),
                                        datatypeName(Interface::kDataType)};
         return XmlSink(out)
-            .element(L"Column", attributes,
+            .element(L"Column"sv, attributes,
                      [this](XmlSink& sink) {
                          for (const T& value : values_)
                              sink.build([&](std::wstring& row) {
-                                 row += L"<Row>";
+                                 row += L"<Row>"sv;
                                  appendContent(row, value);
-                                 row += L"</Row>";
+                                 row += L"</Row>"sv;
                              });
                      })
             .result();

@@ -11,6 +11,8 @@
 namespace tableobj {
 namespace {
 
+using namespace std::string_view_literals;
+
 bool isScalar(const IElement& value) {
     return !datatypeName(value.getElementType()).empty();
 }
@@ -107,11 +109,11 @@ bool TableImpl::equals(const IElement& other) const {
 
 void TableImpl::writeProperties(XmlSink& sink) const {
     if (properties_.empty()) return;
-    sink.element(L"Properties", {}, [this](XmlSink& inner) {
+    sink.element(L"Properties"sv, {}, [this](XmlSink& inner) {
         for (const Property& property : properties_) {
             const TagAttributes attributes{
                 property.name, {}, datatypeName(property.value->getElementType())};
-            inner.element(L"Property", attributes,
+            inner.element(L"Property"sv, attributes,
                           [&](XmlSink& value) { value.write(*property.value); });
         }
     });
@@ -119,7 +121,7 @@ void TableImpl::writeProperties(XmlSink& sink) const {
 
 bool TableImpl::writeXml(IXmlWriter& out) const {
     return XmlSink(out)
-        .element(L"Table", {getName(), getDesc()},
+        .element(L"Table"sv, {getName(), getDesc()},
                  [this](XmlSink& sink) {
                      writeProperties(sink);
                      columns_.writeColumns(sink);

@@ -7,6 +7,8 @@
 
 namespace tableobj {
 
+using namespace std::string_view_literals;
+
 namespace {
 
 template <class T>
@@ -32,7 +34,7 @@ std::wstring valueText(const std::wstring& value) {
 }
 
 void appendContent(std::wstring& out, bool value) {
-    out += value ? L"true" : L"false";
+    out += value ? L"true"sv : L"false"sv;
 }
 void appendContent(std::wstring& out, int value) {
     ioutils::appendInt(out, value);

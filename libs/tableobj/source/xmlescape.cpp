@@ -14,7 +14,7 @@ void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) 
     std::size_t run = 0;         // start of the text not yet appended
     std::size_t keptBefore = 0;  // an "&" before this position is kept
     for (std::size_t p = 0; p < text.size(); ++p) {
-        const wchar_t* replacement = nullptr;
+        std::wstring_view replacement;
         switch (text[p]) {
             case L'&':
                 if (p < keptBefore) break;
@@ -35,7 +35,7 @@ void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) 
             default:
                 break;
         }
-        if (replacement == nullptr) continue;
+        if (replacement.empty()) continue;
         out.append(text.substr(run, p - run)).append(replacement);
         run = p + 1;
     }

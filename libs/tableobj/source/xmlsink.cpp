@@ -5,10 +5,12 @@
 namespace tableobj {
 namespace {
 
+using namespace std::string_view_literals;
+
 // ` name="value"` with the value escaped, when the value is not empty.
-void appendAttribute(std::wstring& out, const wchar_t* name, std::wstring_view value) {
+void appendAttribute(std::wstring& out, std::wstring_view name, std::wstring_view value) {
     if (value.empty()) return;
-    out.append(L" ").append(name).append(L"=\"");
+    out.append(L" "sv).append(name).append(L"=\""sv);
     appendEscapedAttribute(out, value);
     out += L'"';
 }
@@ -22,11 +24,15 @@ XmlSink& XmlSink::write(const IXmlOut& child) {
 
 void XmlSink::appendStartTag(std::wstring& out, std::wstring_view element,
                              const TagAttributes& attributes) {
-    out.append(L"<").append(element);
-    appendAttribute(out, L"name", attributes.name);
-    appendAttribute(out, L"desc", attributes.desc);
-    appendAttribute(out, L"datatype", attributes.datatype);
+    out.append(L"<"sv).append(element);
+    appendAttribute(out, L"name"sv, attributes.name);
+    appendAttribute(out, L"desc"sv, attributes.desc);
+    appendAttribute(out, L"datatype"sv, attributes.datatype);
     out += L'>';
+}
+
+void XmlSink::appendEndTag(std::wstring& out, std::wstring_view element) {
+    out.append(L"</"sv).append(element) += L'>';
 }
 
 }  // namespace tableobj

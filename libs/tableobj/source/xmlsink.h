@@ -34,13 +34,14 @@ public:
                      WriteContent&& writeContent) {
         build([&](std::wstring& tag) { appendStartTag(tag, element, attributes); });
         writeContent(*this);
-        return build([&](std::wstring& tag) { tag.append(L"</").append(element).append(L">"); });
+        return build([&](std::wstring& tag) { appendEndTag(tag, element); });
     }
     bool result() const { return ok_; }
 
 private:
     static void appendStartTag(std::wstring& out, std::wstring_view element,
                                const TagAttributes& attributes);
+    static void appendEndTag(std::wstring& out, std::wstring_view element);
 
     IXmlWriter& out_;
     bool ok_ = true;

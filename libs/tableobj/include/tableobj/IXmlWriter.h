@@ -44,6 +44,7 @@ bool buildPiece(IXmlWriter& out, Build&& build) {
         return true;
     }
     std::wstring piece;
+    piece.reserve(64);  // most pieces are tags: one allocation, not one per doubling
     build(piece);
     return out.write(std::move(piece));
 }
