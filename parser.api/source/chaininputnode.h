@@ -106,8 +106,7 @@ public:
     }
 
     bool writeXml(IXmlWriter& out) const override {
-        const std::wstring& name = this->getName();
-        return this->writeElement(out, StartTag(name).str(), name);
+        return this->writeElement(out, this->getName());
     }
 
 protected:

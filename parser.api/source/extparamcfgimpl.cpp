@@ -19,9 +19,9 @@ const std::wstring& ExtParamCfgImpl::getName() const {
 }
 
 bool ExtParamCfgImpl::writeXml(IXmlWriter& out) const {
-    StartTag tag(getName());
-    tag.text(L"name", name_).text(L"desc", desc_).flag(L"scaleRelate", scaleRelate_);
-    return writeElement(out, tag.str(), getName());
+    return writeElement(out, getName(), [this](StartTag& tag) {
+        tag.text(L"name", name_).text(L"desc", desc_).flag(L"scaleRelate", scaleRelate_);
+    });
 }
 
 bool ExtParamCfgImpl::setChild(INodeCfg* child) {

@@ -36,10 +36,8 @@ const std::wstring& FeatureCfgImpl::getName() const {
 }
 
 bool FeatureCfgImpl::writeXml(IXmlWriter& out) const {
-    const std::wstring& name = getName();
-    out.write(L'<' + name + attributesText_ + L'>');
-    if (!value_.empty()) out.write(value_);
-    return out.write(endTag(name));
+    return writeText(out, value_, Content::AsIs,
+                     [this](StartTag& tag) { tag.markup() += attributesText_; });
 }
 
 bool FeatureCfgImpl::setValue(const std::wstring& value) {

@@ -2,7 +2,6 @@
 
 #include "nodekinds.h"
 
-#include "kazparser/XmlEscaping.h"
 #include "languagemanager.h"
 
 namespace kaz::kazparser {
@@ -12,9 +11,7 @@ const std::wstring& LanguageStringCfgImpl::getName() const {
 }
 
 bool LanguageStringCfgImpl::writeXml(IXmlWriter& out) const {
-    std::wstring text = id_;
-    escapeText(text);
-    return writeText(out, text);
+    return writeText(out, id_, Content::Escaped);
 }
 
 // An unresolved ID is shown as it is, so that a missing text stays visible.

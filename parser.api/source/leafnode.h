@@ -24,12 +24,14 @@ protected:
     explicit LeafNode(INodeCfg* parent) : NodeImpl<Interface>(parent) {}
     LeafNode(const LeafNode& other) = default;
 
-    // "<name>", `content` as it is, "</name>"; answers the end-tag write.
-    bool writeText(IXmlWriter& out, const std::wstring& content) const {
-        const std::wstring& name = this->getName();
-        out.write(StartTag(name).str());
-        if (!content.empty()) out.write(content);
-        return out.write(endTag(name));
+    // The start tag of getName() with the attributes `addAttributes(StartTag&)`
+    // adds, then `content` written as `form` says (a piece of its own, left
+    // out when empty), then the end tag; answers the end-tag write.
+    template <class AddAttributes = NoAttributes>
+    bool writeText(IXmlWriter& out, std::wstring_view content, Content form = Content::AsIs,
+                   AddAttributes addAttributes = {}) const {
+        return kazparser::writeElement(out, this->getName(), addAttributes,
+                                       [&](IXmlWriter& to) { writeContent(to, content, form); });
     }
 };
 

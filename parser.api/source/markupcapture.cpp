@@ -76,21 +76,20 @@ ContentNode contentOf(const Node& node) {
     return content;
 }
 
-void appendStartTag(std::wstring& out, std::wstring_view name, const AttributeList& attributes) {
-    out.append(L"<").append(name);
-    for (const auto& [attribute, value] : attributes) {
-        out.append(L" ").append(attribute).append(L"=\"");
-        appendEscaped(out, value, true);
-        out += L'"';
+void addAttributes(StartTag& tag, const AttributeList& attributes) {
+    for (const auto& [name, value] : attributes) {
+        const std::wstring_view escaped = value;
+        tag.attribute(name, [escaped](std::wstring& text) { appendEscaped(text, escaped, true); });
     }
-    out += L'>';
 }
 
 void appendMarkup(std::wstring& out, const ContentNode& node) {
     if (node.isText()) return appendEscaped(out, node.text, false);
-    appendStartTag(out, node.name, node.attributes);
+    StartTag tag(out, node.name);
+    addAttributes(tag, node.attributes);
+    out += L'>';
     for (const ContentNode& child : node.children) appendMarkup(out, child);
-    out.append(L"</").append(node.name).append(L">");
+    appendEndTag(out, node.name);
 }
 
 std::span<const ContentNode> leadingContent(const ContentNode& element) {

@@ -8,6 +8,7 @@
 
 #include "kazxml/Document.h"
 #include "saxattributes.h"
+#include "xmltags.h"
 
 namespace kaz::kazparser {
 
@@ -34,7 +35,8 @@ ContentNode contentOf(const kaz::xml::Node& node);
 // Markup that parses back to the same content: start tags with their
 // attributes, exactly escaped text, end tags.
 void appendMarkup(std::wstring& out, const ContentNode& node);
-void appendStartTag(std::wstring& out, std::wstring_view name, const AttributeList& attributes);
+// Adds `attributes` to `tag`, in order, their values exactly escaped.
+void addAttributes(StartTag& tag, const AttributeList& attributes);
 
 // What the content of `element` starts with: its first child element, or
 // else the character data before any element, every piece of it (so that

@@ -64,8 +64,7 @@ public:
 
     // Collections without attributes: "<name>", the items, "</name>".
     bool writeXml(IXmlWriter& out) const override {
-        const std::wstring& name = this->getName();
-        return this->writeElement(out, StartTag(name).str(), name);
+        return this->writeElement(out, this->getName());
     }
 
 protected:

@@ -50,12 +50,14 @@ protected:
     NodeImpl(const NodeImpl& other) : Interface(), Located(other), parent_(other.parent_) {}
     NodeImpl& operator=(const NodeImpl&) = delete;
 
-    // Writes `startTag`, then each present child in getChild order, then the
-    // end tag of `name`; answers the end-tag write.
-    bool writeElement(IXmlWriter& out, std::wstring startTag, const std::wstring& name) const {
-        out.write(std::move(startTag));
-        writeChildren(out);
-        return out.write(endTag(name));
+    // The start tag of `name` with the attributes `addAttributes(StartTag&)`
+    // adds, then each present child in getChild order, then the end tag;
+    // answers the end-tag write.
+    template <class AddAttributes = NoAttributes>
+    bool writeElement(IXmlWriter& out, std::wstring_view name,
+                      AddAttributes addAttributes = {}) const {
+        return kazparser::writeElement(out, name, addAttributes,
+                                       [this](IXmlWriter& to) { writeChildren(to); });
     }
 
     void writeChildren(IXmlWriter& out) const {

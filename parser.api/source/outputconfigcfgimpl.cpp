@@ -33,7 +33,7 @@ void OutputConfigCfgImpl::deleteChildren() {
 }
 
 bool OutputConfigCfgImpl::writeXml(IXmlWriter& out) const {
-    return writeElement(out, StartTag(getName()).str(), getName());
+    return writeElement(out, getName());
 }
 
 bool OutputConfigCfgImpl::setChild(INodeCfg* child) {

@@ -37,12 +37,12 @@ ParamCfgImpl::ParamCfgImpl(const ElementStart& element, INodeCfg* parent) : Data
 }
 
 bool ParamCfgImpl::writeXml(IXmlWriter& out) const {
-    StartTag tag(name_);
-    tag.number(L"shift", shift_, std::fabs(shift_) > kShiftThreshold);
-    tag.text(L"transformCode", transformCode_).flag(L"scaleRelate", scaleRelate_);
-    tag.flag(L"shiftScaleRelate", shiftScaleRelate_).flag(L"systemValue", systemValue_);
-    extras_.write(tag);
-    return writeElement(out, tag.str(), name_);
+    return writeElement(out, name_, [this](StartTag& tag) {
+        tag.number(L"shift", shift_, std::fabs(shift_) > kShiftThreshold);
+        tag.text(L"transformCode", transformCode_).flag(L"scaleRelate", scaleRelate_);
+        tag.flag(L"shiftScaleRelate", shiftScaleRelate_).flag(L"systemValue", systemValue_);
+        extras_.write(tag);
+    });
 }
 
 bool ParamCfgImpl::setChild(INodeCfg* child) {

@@ -33,12 +33,11 @@ const std::wstring& ParamSetCfgImpl::getName() const {
 }
 
 bool ParamSetCfgImpl::writeXml(IXmlWriter& out) const {
-    const std::wstring& name = getName();
-    StartTag tag(name);
-    tag.text(L"name", name_).text(L"nameStringID", nameStringID_);
-    tag.text(L"desc", desc_).text(L"descStringID", descStringID_);
-    extras_.write(tag);
-    return writeElement(out, tag.str(), name);
+    return writeElement(out, getName(), [this](StartTag& tag) {
+        tag.text(L"name", name_).text(L"nameStringID", nameStringID_);
+        tag.text(L"desc", desc_).text(L"descStringID", descStringID_);
+        extras_.write(tag);
+    });
 }
 
 bool ParamSetCfgImpl::erase(const std::wstring& name) {

@@ -60,10 +60,9 @@ public:
 
     // Attribute values are written as stored; empty ones are left out.
     bool writeXml(IXmlWriter& out) const override {
-        const std::wstring name = writtenName();
-        return this->writeElement(
-            out, StartTag(name).text(L"engineFile", engineFile_).text(L"engineID", engineID_).str(),
-            name);
+        return this->writeElement(out, writtenName(), [this](StartTag& tag) {
+            tag.text(L"engineFile", engineFile_).text(L"engineID", engineID_);
+        });
     }
 
 protected:

@@ -9,7 +9,7 @@ const std::wstring& PresentationElementCfgImpl::tag() {
 }
 
 bool PresentationElementCfgImpl::writeXml(IXmlWriter& out) const {
-    return writeElement(out, startTag().str(), tag());
+    return writeElement(out, tag(), [this](StartTag& start) { addSharedAttributes(start); });
 }
 
 bool PresentationElementCfgImpl::setSchemaVersion(const std::wstring& version) {

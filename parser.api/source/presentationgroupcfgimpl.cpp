@@ -16,7 +16,10 @@ PresentationGroupCfgImpl::PresentationGroupCfgImpl(const ElementStart& element, 
 }
 
 bool PresentationGroupCfgImpl::writeXml(IXmlWriter& out) const {
-    return writeElement(out, startTag().text(L"previewImg", previewImg_).str(), tag());
+    return writeElement(out, tag(), [this](StartTag& start) {
+        addSharedAttributes(start);
+        start.text(L"previewImg", previewImg_);
+    });
 }
 
 bool PresentationGroupCfgImpl::setPreviewImg(const std::wstring& image) {

@@ -114,15 +114,13 @@ protected:
 
     PresentationNode(const PresentationNode& other) = default;
 
-    // The start tag with the shared attributes in their written order;
-    // the kind may add its own after them.
-    StartTag startTag() const {
-        StartTag tag(Derived::tag());
+    // The shared attributes in their written order; the kind may add its
+    // own after them.
+    void addSharedAttributes(StartTag& tag) const {
         tag.text(L"name", name_).text(L"nameStringID", nameStringID_);
         tag.text(L"desc", desc_).text(L"descStringID", descStringID_);
         tag.text(L"schemaVersion", schemaVersion_);
         tag.number(L"kaz.DwgSysParam.MeasureScale", measureScale_, hasMeasureScale_);
-        return tag;
     }
 
     std::wstring nameStringID_;

@@ -27,15 +27,12 @@ public:
     void setDesc(const std::wstring& desc) override { desc_ = desc; }
 
     bool writeXml(IXmlWriter& out) const override {
-        const std::wstring& element = getName();
-        StartTag tag(element);
-        tag.text(L"name", name_).text(L"desc", desc_);
-        static_cast<const Derived&>(*this).addAttributes(tag);
-        std::wstring text = tag.str();
-        const unsigned int count = this->getChildCount();
-        for (unsigned int i = 0; i < count; ++i) text += this->getChild(i)->toXml();
-        text += endTag(element);
-        return out.write(std::move(text));
+        return writeAsOnePiece(out, [this](IXmlWriter& whole) {
+            this->writeElement(whole, getName(), [this](StartTag& tag) {
+                tag.text(L"name", name_).text(L"desc", desc_);
+                static_cast<const Derived&>(*this).addAttributes(tag);
+            });
+        });
     }
 
 protected:

@@ -24,8 +24,7 @@ const std::wstring& SampleResultsCfgImpl::getName() const {
 }
 
 bool SampleResultsCfgImpl::writeXml(IXmlWriter& out) const {
-    const std::wstring& element = getName();
-    return writeElement(out, StartTag(element).text(L"name", name_).str(), element);
+    return writeElement(out, getName(), [this](StartTag& tag) { tag.text(L"name", name_); });
 }
 
 // Each change goes through the shared list rules first, so that a refused

@@ -18,11 +18,8 @@ const std::wstring& SelectTablesCfgImpl::getName() const {
 // The start tag is written with the exact escaping of captured markup, so
 // that any attribute value reads back as it was.
 bool SelectTablesCfgImpl::writeXml(IXmlWriter& out) const {
-    std::wstring startTag;
-    appendStartTag(startTag, getName(), attributes_);
-    out.write(std::move(startTag));
-    if (!content_.empty()) out.write(content_);
-    return out.write(endTag(getName()));
+    return writeText(out, content_, Content::AsIs,
+                     [this](StartTag& tag) { addAttributes(tag, attributes_); });
 }
 
 unsigned int SelectTablesCfgImpl::getAttributeCount() const {

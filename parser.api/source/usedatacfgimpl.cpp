@@ -45,10 +45,9 @@ INodeCfg* UseDataCfgImpl::clone() const {
 }
 
 bool UseDataCfgImpl::writeXml(IXmlWriter& out) const {
-    const std::wstring& name = getName();
-    out.write(StartTag(name).str());
-    if (value_) value_->writeXml(out);
-    return out.write(endTag(name));
+    return kazparser::writeElement(out, getName(), NoAttributes{}, [this](IXmlWriter& to) {
+        if (value_) value_->writeXml(to);
+    });
 }
 
 bool UseDataCfgImpl::setChild(INodeCfg*) {

@@ -10,7 +10,7 @@ const std::wstring& UseDataCollectorCfgImpl::getName() const {
 }
 
 bool UseDataCollectorCfgImpl::writeXml(IXmlWriter& out) const {
-    return writeElement(out, StartTag(getName()).str(), getName());
+    return writeElement(out, getName());
 }
 
 }  // namespace kaz::kazparser

@@ -2,8 +2,6 @@
 
 #include "nodekinds.h"
 
-#include "kazparser/XmlEscaping.h"
-
 namespace kaz::kazparser {
 
 const std::wstring& UseExpressionCfgImpl::getName() const {
@@ -12,9 +10,8 @@ const std::wstring& UseExpressionCfgImpl::getName() const {
 
 // The whole element is handed over as one piece.
 bool UseExpressionCfgImpl::writeXml(IXmlWriter& out) const {
-    std::wstring text = expression_;
-    escapeText(text);
-    return out.write(StartTag(getName()).str() + text + endTag(getName()));
+    return writeAsOnePiece(
+        out, [this](IXmlWriter& whole) { writeText(whole, expression_, Content::Escaped); });
 }
 
 bool UseExpressionCfgImpl::setChild(INodeCfg*) {

@@ -93,12 +93,12 @@ protected:
     // Writes the element; `refFileName` is written after "elemID" when not
     // empty (the fixed reference has none).
     bool writeReference(IXmlWriter& out, const std::wstring& refFileName) const {
-        StartTag tag(Derived::tag());
-        tag.text(L"elemID", elemID_).text(L"refFileName", refFileName).flag(L"active", active_);
-        tag.text(L"refMainData", refMainData_);
-        tag.text(L"label", label_).text(L"labelStringID", labelStringID_);
-        tag.text(L"desc", desc_).text(L"descStringID", descStringID_);
-        return this->writeElement(out, tag.str(), Derived::tag());
+        return this->writeElement(out, Derived::tag(), [&](StartTag& tag) {
+            tag.text(L"elemID", elemID_).text(L"refFileName", refFileName).flag(L"active", active_);
+            tag.text(L"refMainData", refMainData_);
+            tag.text(L"label", label_).text(L"labelStringID", labelStringID_);
+            tag.text(L"desc", desc_).text(L"descStringID", descStringID_);
+        });
     }
 
 private:

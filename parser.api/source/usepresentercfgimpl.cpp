@@ -10,7 +10,7 @@ const std::wstring& UsePresenterCfgImpl::getName() const {
 }
 
 bool UsePresenterCfgImpl::writeXml(IXmlWriter& out) const {
-    return writeElement(out, StartTag(getName()).str(), getName());
+    return writeElement(out, getName());
 }
 
 }  // namespace kaz::kazparser

@@ -1,48 +1,58 @@
 #include "xmltags.h"
 
 #include "ioutils/Numbers.h"
+#include "tableobj/XmlEscape.h"
 
 namespace kaz::kazparser {
 
-StartTag::StartTag(const std::wstring& name) {
-    tag_.reserve(name.size() + 32);
-    tag_ += L'<';
-    tag_ += name;
+using namespace std::string_view_literals;
+
+StartTag::StartTag(std::wstring& out, std::wstring_view name) : out_(out) {
+    out_ += L'<';
+    out_ += name;
 }
 
-StartTag& StartTag::text(const wchar_t* name, const std::wstring& value) {
+StartTag& StartTag::text(AttributeName name, const std::wstring& value) {
     if (!value.empty()) always(name, value);
     return *this;
 }
 
-StartTag& StartTag::flag(const wchar_t* name, bool value) {
-    if (value) always(name, L"true");
+StartTag& StartTag::flag(AttributeName name, bool value) {
+    if (value) always(name, L"true"sv);
     return *this;
 }
 
-StartTag& StartTag::number(const wchar_t* name, double value, bool present) {
-    if (present) always(name, ioutils::formatFixed4(value));
-    return *this;
+StartTag& StartTag::number(AttributeName name, double value, bool present) {
+    if (!present) return *this;
+    return attribute(name, [value](std::wstring& text) { ioutils::appendFixed4(text, value); });
 }
 
 StartTag& StartTag::always(std::wstring_view name, std::wstring_view value) {
-    tag_ += L' ';
-    tag_ += name;
-    tag_ += L"=\"";
-    tag_ += value;
-    tag_ += L'"';
-    return *this;
+    return attribute(name, [value](std::wstring& text) { text += value; });
 }
 
-std::wstring StartTag::str() {
-    tag_ += L'>';
-    return std::move(tag_);
+void appendEndTag(std::wstring& out, std::wstring_view name) {
+    out.append(L"</"sv).append(name) += L'>';
 }
 
-std::wstring endTag(const std::wstring& name) {
+std::wstring endTag(std::wstring_view name) {
     std::wstring tag;
-    tag.reserve(name.size() + 3);
-    return tag.append(L"</").append(name).append(L">");
+    appendEndTag(tag, name);
+    return tag;
+}
+
+bool writeEndTag(tableobj::IXmlWriter& out, std::wstring_view name) {
+    return tableobj::buildPiece(out, [name](std::wstring& text) { appendEndTag(text, name); });
+}
+
+bool writeContent(tableobj::IXmlWriter& out, std::wstring_view text, Content form) {
+    if (text.empty()) return true;
+    return tableobj::buildPiece(out, [&](std::wstring& piece) {
+        if (form == Content::Escaped)
+            tableobj::appendEscapedText(piece, text);
+        else
+            piece += text;
+    });
 }
 
 }  // namespace kaz::kazparser

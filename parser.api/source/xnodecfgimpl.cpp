@@ -6,40 +6,27 @@
 #include <cwctype>
 
 #include "ioutils/Numbers.h"
-#include "kazparser/XmlEscaping.h"
+#include "tableobj/XmlEscape.h"
 
 namespace kaz::kazparser {
 namespace {
 
-// Characters that a reader would normalise are written as character
-// references, so that what is written reads back to the same text.
-void protectWhitespace(std::wstring& text, bool inAttribute) {
-    std::wstring out;
-    out.reserve(text.size());
-    for (wchar_t c : text) {
-        if (c == L'\r') {
-            out += L"&#13;";
-        } else if (inAttribute && c == L'\n') {
-            out += L"&#10;";
-        } else if (inAttribute && c == L'\t') {
-            out += L"&#9;";
-        } else {
-            out += c;
-        }
+// Appends `text` escaped, with the characters a reader would normalise
+// written as character references, so that it reads back the same.
+void appendProtected(std::wstring& out, std::wstring_view text, bool inAttribute) {
+    const std::size_t start = out.size();
+    if (inAttribute)
+        tableobj::appendEscapedAttribute(out, text);
+    else
+        tableobj::appendEscapedText(out, text);
+    const wchar_t* normalised = inAttribute ? L"\r\n\t" : L"\r";
+    for (std::size_t p = out.find_first_of(normalised, start); p != std::wstring::npos;
+         p = out.find_first_of(normalised, p)) {
+        const wchar_t* reference = out[p] == L'\r'   ? L"&#13;"
+                                   : out[p] == L'\n' ? L"&#10;"
+                                                     : L"&#9;";
+        out.replace(p, 1, reference);
     }
-    text.swap(out);
-}
-
-std::wstring attributeText(std::wstring value) {
-    escapeAttribute(value);
-    protectWhitespace(value, true);
-    return value;
-}
-
-std::wstring elementText(std::wstring text) {
-    escapeText(text);
-    protectWhitespace(text, false);
-    return text;
 }
 
 }  // namespace
@@ -59,14 +46,20 @@ INodeCfg* XNodeCfgImpl::clone() const {
 }
 
 bool XNodeCfgImpl::writeXml(IXmlWriter& out) const {
-    const std::wstring& name = getName();
-    StartTag tag(name);
-    for (const auto& [attributeName, value] : attributes_)
-        tag.always(attributeName, attributeText(value));
-    out.write(tag.str());
-    if (!text_.empty()) out.write(elementText(text_));
-    writeChildren(out);
-    return out.write(endTag(name));
+    const auto addAttributes = [this](StartTag& tag) {
+        for (const auto& [name, value] : attributes_) {
+            const std::wstring_view protectedValue = value;
+            tag.attribute(name, [protectedValue](std::wstring& text) {
+                appendProtected(text, protectedValue, true);
+            });
+        }
+    };
+    return kazparser::writeElement(out, getName(), addAttributes, [this](IXmlWriter& to) {
+        if (!text_.empty())
+            tableobj::buildPiece(
+                to, [this](std::wstring& text) { appendProtected(text, text_, false); });
+        writeChildren(to);
+    });
 }
 
 void XNodeCfgImpl::endOfContent() {

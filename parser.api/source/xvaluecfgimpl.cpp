@@ -21,10 +21,10 @@ const std::wstring& XValueCfgImpl::getName() const {
 }
 
 bool XValueCfgImpl::writeXml(IXmlWriter& out) const {
-    StartTag tag(getName());
-    tag.text(L"name", name_).text(L"desc", desc_);
-    tag.flag(L"scaleRelate", scaleRelate_).flag(L"systemValue", systemValue_);
-    return writeElement(out, tag.str(), getName());
+    return writeElement(out, getName(), [this](StartTag& tag) {
+        tag.text(L"name", name_).text(L"desc", desc_);
+        tag.flag(L"scaleRelate", scaleRelate_).flag(L"systemValue", systemValue_);
+    });
 }
 
 bool XValueCfgImpl::setChild(INodeCfg* child) {

@@ -210,6 +210,24 @@ TEST_P(KindsTest, FullNodeParentsItsChildrenAndWritesWhatReadsBackTheSame) {
     EXPECT_TRUE(node->writeXml(out));
 }
 
+// Keeps every piece; hands out no string to write into.
+struct PieceRecorder final : tableobj::IXmlWriter {
+    bool write(std::wstring piece) override {
+        pieces.push_back(std::move(piece));
+        return true;
+    }
+    std::vector<std::wstring> pieces;
+};
+
+TEST_P(KindsTest, PiecesJoinToTheTextWrittenInPlace) {
+    auto node = full();
+    PieceRecorder recorder;
+    EXPECT_TRUE(node->writeXml(recorder));
+    std::wstring joined;
+    for (const std::wstring& piece : recorder.pieces) joined += piece;
+    EXPECT_EQ(joined, node->toXml());
+}
+
 TEST_P(KindsTest, CloneIsDeepWithChildrenReparentedAndTheSourceParent) {
     auto holder = NodePtr<>(createGeneric(nullptr, nullptr));
     auto node = full();

@@ -1,6 +1,7 @@
 #include "ioutils/Numbers.h"
 
 #include <locale.h>
+#include <algorithm>
 #include <charconv>
 #include <climits>
 #include <clocale>
@@ -52,10 +53,6 @@ std::size_t decimalLength(std::wstring_view text, std::size_t pos) {
         if (exponentEnd > exponent) end = exponentEnd;
     }
     return end - pos;
-}
-
-std::wstring wideFromAscii(const char* begin, const char* end) {
-    return std::wstring(begin, end);
 }
 
 }  // namespace
@@ -139,23 +136,52 @@ bool readInt(std::wstring_view text, int& value) {
     return true;
 }
 
-std::wstring formatFixed4(double value) {
+namespace {
+
+// Widens the characters to_chars wrote, in place at the end of `out`.
+void appendChars(std::wstring& out, const char* begin, const char* end) {
+    const std::size_t at = out.size();
+    out.resize(at + static_cast<std::size_t>(end - begin));
+    std::copy(begin, end, out.begin() + static_cast<std::ptrdiff_t>(at));
+}
+
+}  // namespace
+
+void appendFixed4(std::wstring& out, double value) {
     char buffer[400];
     const auto result =
         std::to_chars(buffer, buffer + sizeof(buffer), value, std::chars_format::fixed, 4);
-    return wideFromAscii(buffer, result.ptr);
+    appendChars(out, buffer, result.ptr);
+}
+
+void appendShortest(std::wstring& out, double value) {
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    appendChars(out, buffer, result.ptr);
+}
+
+void appendInt(std::wstring& out, long long value) {
+    char buffer[32];
+    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
+    appendChars(out, buffer, result.ptr);
+}
+
+std::wstring formatFixed4(double value) {
+    std::wstring text;
+    appendFixed4(text, value);
+    return text;
 }
 
 std::wstring formatShortest(double value) {
-    char buffer[64];
-    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    return wideFromAscii(buffer, result.ptr);
+    std::wstring text;
+    appendShortest(text, value);
+    return text;
 }
 
 std::wstring formatInt(long long value) {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value);
-    return wideFromAscii(buffer, result.ptr);
+    std::wstring text;
+    appendInt(text, value);
+    return text;
 }
 
 }  // namespace ioutils

@@ -4,7 +4,6 @@
 
 #include "elementbase.h"
 #include "errors.h"
-#include "tableobj/TableobjFactory.h"
 #include "valuetext.h"
 #include "xmlsink.h"
 
@@ -60,13 +59,20 @@ public:
         return true;
     }
     bool writeXml(IXmlWriter& out) const override {
-        XmlSink sink(out);
-        const std::wstring datatype =
-            TableobjFactory::datatypeFromElementType(Interface::kDataType);
-        sink.write(L"<Column" + nameAttributes(*this) + attribute(L"datatype", datatype) + L">");
-        for (const T& value : values_)
-            sink.write(L"<Row>" + escapedText(valueText(value)) + L"</Row>");
-        return sink.write(L"</Column>").result();
+        using namespace std::string_view_literals;
+        const TagAttributes attributes{this->getName(), this->getDesc(),
+                                       datatypeName(Interface::kDataType)};
+        return XmlSink(out)
+            .element(L"Column"sv, attributes,
+                     [this](XmlSink& sink) {
+                         for (const T& value : values_)
+                             sink.build([&](std::wstring& row) {
+                                 row += L"<Row>"sv;
+                                 appendContent(row, value);
+                                 row += L"</Row>"sv;
+                             });
+                     })
+            .result();
     }
 
 private:

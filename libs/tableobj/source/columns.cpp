@@ -8,10 +8,7 @@ bool ColumnsImpl::equals(const IElement& other) const {
 }
 
 bool ColumnsImpl::writeXml(IXmlWriter& out) const {
-    XmlSink sink(out);
-    sink.write(L"<Columns>");
-    writeItems(sink);
-    return sink.write(L"</Columns>").result();
+    return writeList(out, L"Columns", {});
 }
 
 }  // namespace tableobj

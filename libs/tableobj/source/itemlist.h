@@ -74,6 +74,14 @@ protected:
         for (const auto& item : items_) sink.write(*item);
     }
 
+    // The list as the element `element` around its items.
+    bool writeList(IXmlWriter& out, std::wstring_view element,
+                   const TagAttributes& attributes) const {
+        return XmlSink(out)
+            .element(element, attributes, [this](XmlSink& sink) { writeItems(sink); })
+            .result();
+    }
+
     // The qualified name of operation `op`, for exception contexts.
     std::wstring method(const wchar_t* op) const { return std::wstring(className_) + L"::" + op; }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "elementbase.h"
+#include "tableobj/IXmlWriter.h"
 #include "valuetext.h"
-#include "xmlsink.h"
 
 namespace tableobj {
 
@@ -24,7 +24,7 @@ public:
         return same != nullptr && sameValue(value_, same->getValue());
     }
     bool writeXml(IXmlWriter& out) const override {
-        return out.write(escapedText(valueText(value_)));
+        return buildPiece(out, [this](std::wstring& text) { appendContent(text, value_); });
     }
 
 private:

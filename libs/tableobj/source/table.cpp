@@ -5,13 +5,16 @@
 #include "errors.h"
 #include "ioutils/Numbers.h"
 #include "tableobj/TableobjFactory.h"
+#include "valuetext.h"
 #include "xmlsink.h"
 
 namespace tableobj {
 namespace {
 
+using namespace std::string_view_literals;
+
 bool isScalar(const IElement& value) {
-    return !TableobjFactory::datatypeFromElementType(value.getElementType()).empty();
+    return !datatypeName(value.getElementType()).empty();
 }
 
 std::wstring rowCountText(std::size_t rows) {
@@ -106,23 +109,24 @@ bool TableImpl::equals(const IElement& other) const {
 
 void TableImpl::writeProperties(XmlSink& sink) const {
     if (properties_.empty()) return;
-    sink.write(L"<Properties>");
-    for (const Property& property : properties_) {
-        std::wstring start = L"<Property";
-        if (!property.name.empty()) start += attribute(L"name", property.name);
-        const IElement::ElementType type = property.value->getElementType();
-        start += attribute(L"datatype", TableobjFactory::datatypeFromElementType(type)) + L">";
-        sink.write(start).write(*property.value).write(L"</Property>");
-    }
-    sink.write(L"</Properties>");
+    sink.element(L"Properties"sv, {}, [this](XmlSink& inner) {
+        for (const Property& property : properties_) {
+            const TagAttributes attributes{
+                property.name, {}, datatypeName(property.value->getElementType())};
+            inner.element(L"Property"sv, attributes,
+                          [&](XmlSink& value) { value.write(*property.value); });
+        }
+    });
 }
 
 bool TableImpl::writeXml(IXmlWriter& out) const {
-    XmlSink sink(out);
-    sink.write(L"<Table" + nameAttributes(*this) + L">");
-    writeProperties(sink);
-    columns_.writeColumns(sink);
-    return sink.write(L"</Table>").result();
+    return XmlSink(out)
+        .element(L"Table"sv, {getName(), getDesc()},
+                 [this](XmlSink& sink) {
+                     writeProperties(sink);
+                     columns_.writeColumns(sink);
+                 })
+        .result();
 }
 
 }  // namespace tableobj

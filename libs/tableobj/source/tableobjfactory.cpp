@@ -107,10 +107,14 @@ IElement::ElementType TableobjFactory::elementTypeFromDatatype(const std::wstrin
     return IElement::NoValue;
 }
 
-std::wstring TableobjFactory::datatypeFromElementType(IElement::ElementType type) {
+std::wstring_view datatypeName(IElement::ElementType type) {
     for (const auto& [known, text] : kDatatypes)
         if (type == known) return text;
     return L"";
+}
+
+std::wstring TableobjFactory::datatypeFromElementType(IElement::ElementType type) {
+    return std::wstring(datatypeName(type));
 }
 
 }  // namespace tableobj

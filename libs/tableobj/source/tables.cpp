@@ -8,10 +8,7 @@ bool TablesImpl::equals(const IElement& other) const {
 }
 
 bool TablesImpl::writeXml(IXmlWriter& out) const {
-    XmlSink sink(out);
-    sink.write(L"<Tables" + nameAttributes(*this) + L">");
-    writeItems(sink);
-    return sink.write(L"</Tables>").result();
+    return writeList(out, L"Tables", {getName(), getDesc()});
 }
 
 }  // namespace tableobj

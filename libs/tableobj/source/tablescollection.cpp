@@ -9,10 +9,7 @@ bool TablesCollectionImpl::equals(const IElement& other) const {
 
 // A Tables element whose children are the Tables elements of the lists.
 bool TablesCollectionImpl::writeXml(IXmlWriter& out) const {
-    XmlSink sink(out);
-    sink.write(L"<Tables>");
-    writeItems(sink);
-    return sink.write(L"</Tables>").result();
+    return writeList(out, L"Tables", {});
 }
 
 }  // namespace tableobj

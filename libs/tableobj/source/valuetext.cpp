@@ -3,20 +3,47 @@
 #include <cwctype>
 
 #include "ioutils/Numbers.h"
+#include "tableobj/XmlEscape.h"
 
 namespace tableobj {
 
+using namespace std::string_view_literals;
+
+namespace {
+
+template <class T>
+std::wstring plainText(T value) {
+    std::wstring text;
+    appendContent(text, value);
+    return text;
+}
+
+}  // namespace
+
 std::wstring valueText(bool value) {
-    return value ? L"true" : L"false";
+    return plainText(value);
 }
 std::wstring valueText(int value) {
-    return ioutils::formatInt(value);
+    return plainText(value);
 }
 std::wstring valueText(double value) {
-    return ioutils::formatShortest(value);
+    return plainText(value);
 }
 std::wstring valueText(const std::wstring& value) {
     return value;
+}
+
+void appendContent(std::wstring& out, bool value) {
+    out += value ? L"true"sv : L"false"sv;
+}
+void appendContent(std::wstring& out, int value) {
+    ioutils::appendInt(out, value);
+}
+void appendContent(std::wstring& out, double value) {
+    ioutils::appendShortest(out, value);
+}
+void appendContent(std::wstring& out, const std::wstring& value) {
+    appendEscapedText(out, value);
 }
 
 template <>

@@ -2,7 +2,10 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <type_traits>
+
+#include "tableobj/IElement.h"
 
 namespace tableobj {
 
@@ -11,6 +14,16 @@ std::wstring valueText(bool value);
 std::wstring valueText(int value);
 std::wstring valueText(double value);
 std::wstring valueText(const std::wstring& value);
+
+// Appends a value as element content: flags and numbers as valueText
+// writes them (they hold no markup characters), strings escaped.
+void appendContent(std::wstring& out, bool value);
+void appendContent(std::wstring& out, int value);
+void appendContent(std::wstring& out, double value);
+void appendContent(std::wstring& out, const std::wstring& value);
+
+// The datatype text of a scalar type; empty for other types.
+std::wstring_view datatypeName(IElement::ElementType type);
 
 // Reads a value written by valueText; lenient, never throws.
 template <class T>

@@ -3,36 +3,70 @@
 namespace tableobj {
 namespace {
 
-// Replaces every `from` by `to`, left to right, never re-examining `to`.
-void replaceAll(std::wstring& text, wchar_t from, const wchar_t* to) {
-    const std::wstring replacement = to;
-    for (std::size_t p = text.find(from); p != std::wstring::npos;
-         p = text.find(from, p + replacement.size()))
-        text.replace(p, 1, replacement);
+constexpr const wchar_t* kTextMarkup = L"&<>";
+constexpr const wchar_t* kAttributeMarkup = L"&<>\"";
+
+// Escapes in one pass, appending the runs between replaced characters
+// whole. The ampersand rule is the historical one: an "&" followed by "a"
+// or "A" is taken for an entity and kept, and the search for the next "&"
+// resumes three characters after it, so an "&" two places on is kept too.
+void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) {
+    std::size_t run = 0;         // start of the text not yet appended
+    std::size_t keptBefore = 0;  // an "&" before this position is kept
+    for (std::size_t p = 0; p < text.size(); ++p) {
+        std::wstring_view replacement;
+        switch (text[p]) {
+            case L'&':
+                if (p < keptBefore) break;
+                if (p + 1 < text.size() && (text[p + 1] == L'a' || text[p + 1] == L'A'))
+                    keptBefore = p + 3;
+                else
+                    replacement = L"&amp;";
+                break;
+            case L'<':
+                replacement = L"&lt;";
+                break;
+            case L'>':
+                replacement = L"&gt;";
+                break;
+            case L'"':
+                if (inAttribute) replacement = L"&quot;";
+                break;
+            default:
+                break;
+        }
+        if (replacement.empty()) continue;
+        out.append(text.substr(run, p - run)).append(replacement);
+        run = p + 1;
+    }
+    out.append(text.substr(run));
 }
 
-// The ampersand pass keeps the historical rule: an "&" followed by "a" or "A"
-// is taken for an entity, and the search skips three characters after each
-// "&" found, whatever was done with it.
-void escapeAmpersands(std::wstring& text) {
-    for (std::size_t p = text.find(L'&'); p != std::wstring::npos; p = text.find(L'&', p + 3)) {
-        const bool entity = p + 1 < text.size() && (text[p + 1] == L'a' || text[p + 1] == L'A');
-        if (!entity) text.replace(p, 1, L"&amp;");
-        if (p + 3 >= text.size()) break;
-    }
+void escapeInPlace(std::wstring& text, bool inAttribute) {
+    if (text.find_first_of(inAttribute ? kAttributeMarkup : kTextMarkup) == std::wstring::npos)
+        return;
+    std::wstring escaped;
+    escaped.reserve(text.size() + 16);
+    appendEscaped(escaped, text, inAttribute);
+    text.swap(escaped);
 }
 
 }  // namespace
 
 void escapeText(std::wstring& text) {
-    escapeAmpersands(text);
-    replaceAll(text, L'<', L"&lt;");
-    replaceAll(text, L'>', L"&gt;");
+    escapeInPlace(text, false);
 }
 
 void escapeAttribute(std::wstring& text) {
-    escapeText(text);
-    replaceAll(text, L'"', L"&quot;");
+    escapeInPlace(text, true);
+}
+
+void appendEscapedText(std::wstring& out, std::wstring_view text) {
+    appendEscaped(out, text, false);
+}
+
+void appendEscapedAttribute(std::wstring& out, std::wstring_view text) {
+    appendEscaped(out, text, true);
 }
 
 }  // namespace tableobj

@@ -3,32 +3,36 @@
 #include "tableobj/XmlEscape.h"
 
 namespace tableobj {
+namespace {
 
-XmlSink& XmlSink::write(std::wstring piece) {
-    if (ok_) ok_ = out_.write(std::move(piece));
-    return *this;
+using namespace std::string_view_literals;
+
+// ` name="value"` with the value escaped, when the value is not empty.
+void appendAttribute(std::wstring& out, std::wstring_view name, std::wstring_view value) {
+    if (value.empty()) return;
+    out.append(L" "sv).append(name).append(L"=\""sv);
+    appendEscapedAttribute(out, value);
+    out += L'"';
 }
+
+}  // namespace
 
 XmlSink& XmlSink::write(const IXmlOut& child) {
     if (ok_) ok_ = child.writeXml(out_);
     return *this;
 }
 
-std::wstring attribute(const wchar_t* name, std::wstring value) {
-    escapeAttribute(value);
-    return L" " + std::wstring(name) + L"=\"" + value + L"\"";
+void XmlSink::appendStartTag(std::wstring& out, std::wstring_view element,
+                             const TagAttributes& attributes) {
+    out.append(L"<"sv).append(element);
+    appendAttribute(out, L"name"sv, attributes.name);
+    appendAttribute(out, L"desc"sv, attributes.desc);
+    appendAttribute(out, L"datatype"sv, attributes.datatype);
+    out += L'>';
 }
 
-std::wstring nameAttributes(const INamed& named) {
-    std::wstring text;
-    if (!named.getName().empty()) text += attribute(L"name", named.getName());
-    if (!named.getDesc().empty()) text += attribute(L"desc", named.getDesc());
-    return text;
-}
-
-std::wstring escapedText(std::wstring text) {
-    escapeText(text);
-    return text;
+void XmlSink::appendEndTag(std::wstring& out, std::wstring_view element) {
+    out.append(L"</"sv).append(element) += L'>';
 }
 
 }  // namespace tableobj

@@ -21,6 +21,10 @@ IOUTILS_API std::wstring formatFixed4(double value);
 // The shortest text that reads back to exactly the same value.
 IOUTILS_API std::wstring formatShortest(double value);
 IOUTILS_API std::wstring formatInt(long long value);
+// The same forms appended to `out`, for writers that build text in place.
+IOUTILS_API void appendFixed4(std::wstring& out, double value);
+IOUTILS_API void appendShortest(std::wstring& out, double value);
+IOUTILS_API void appendInt(std::wstring& out, long long value);
 
 // Strict forms: the whole text, blanks around it aside, must be one number.
 IOUTILS_API bool readDouble(std::wstring_view text, double& value);

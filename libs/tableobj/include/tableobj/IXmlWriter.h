@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "tableobj/Export.h"
 
@@ -13,6 +15,9 @@ public:
     virtual ~IXmlWriter() = default;
     // Appends one piece of text; answers whether it was taken.
     virtual bool write(std::wstring piece) = 0;
+    // A writer that appends every piece to a string may hand the string
+    // out, so that large texts are appended in place instead of as pieces.
+    virtual std::wstring* buffer() { return nullptr; }
 };
 
 // A writer that appends every piece to a string.
@@ -23,9 +28,30 @@ public:
         target_ += piece;
         return true;
     }
+    std::wstring* buffer() override { return &target_; }
 
 private:
     std::wstring& target_;
 };
+
+// Hands `out` the piece that `build(std::wstring&)` appends: straight into
+// the writer's buffer when it has one (always taken), else in a string of
+// its own, so that the writer sees the same pieces either way.
+template <class Build>
+bool buildPiece(IXmlWriter& out, Build&& build) {
+    if (std::wstring* buffer = out.buffer()) {
+        build(*buffer);
+        return true;
+    }
+    std::wstring piece;
+    piece.reserve(64);  // most pieces are tags: one allocation, not one per doubling
+    build(piece);
+    return out.write(std::move(piece));
+}
+
+// Hands `out` `text` as one piece.
+inline bool writePiece(IXmlWriter& out, std::wstring_view text) {
+    return buildPiece(out, [text](std::wstring& piece) { piece += text; });
+}
 
 }  // namespace tableobj

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "tableobj/Export.h"
 
@@ -14,5 +15,9 @@ namespace tableobj {
 TABLEOBJ_API void escapeText(std::wstring& text);
 // As escapeText, then '"' becomes "&quot;". Apostrophes stay as they are.
 TABLEOBJ_API void escapeAttribute(std::wstring& text);
+
+// The same escaping of `text`, appended to `out`.
+TABLEOBJ_API void appendEscapedText(std::wstring& out, std::wstring_view text);
+TABLEOBJ_API void appendEscapedAttribute(std::wstring& out, std::wstring_view text);
 
 }  // namespace tableobj
