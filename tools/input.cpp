@@ -25,13 +25,6 @@ std::wstring wide(std::string_view text) {
 
 namespace {
 
-std::wstring decode(std::string_view bytes) {
-    if (bytes.starts_with("\xFF\xFE")) return ioutils::wideFromUtf16(bytes.substr(2), false);
-    if (bytes.starts_with("\xFE\xFF")) return ioutils::wideFromUtf16(bytes.substr(2), true);
-    if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
-    return ioutils::wideFromUtf8(bytes);
-}
-
 std::string readAll(std::istream& in) {
     std::ostringstream bytes;
     bytes << in.rdbuf();
@@ -45,14 +38,14 @@ std::string readAll(std::istream& in) {
 }  // namespace
 
 std::wstring readInput(const std::string& name) {
-    if (name == "-") return decode(readAll(std::cin));
+    if (name == "-") return ioutils::wideFromTextFile(readAll(std::cin));
     if (std::filesystem::is_directory(name)) {
         errno = EISDIR;
         failOn(name, "can not read the file");
     }
     std::ifstream file(name, std::ios::binary);
     if (!file) failOn(name, "can not read the file");
-    return decode(readAll(file));
+    return ioutils::wideFromTextFile(readAll(file));
 }
 
 void writeOutput(const std::string& name, std::wstring_view text) {

@@ -136,7 +136,7 @@ void KAZParserContentHandlerImpl::captureStart(const std::wstring& name,
 void KAZParserContentHandlerImpl::captureEnd(std::wstring_view name) {
     --nested_;
     if (mode() == Mode::Raw)
-        topContent()->appendText(endTag(std::wstring(name)));
+        topContent()->appendText(endTag(name));
     else
         captured_.endElement();
 }

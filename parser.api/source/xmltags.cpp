@@ -31,10 +31,6 @@ StartTag& StartTag::always(std::wstring_view name, std::wstring_view value) {
     return attribute(name, [value](std::wstring& text) { text += value; });
 }
 
-void appendEndTag(std::wstring& out, std::wstring_view name) {
-    out.append(L"</"sv).append(name) += L'>';
-}
-
 std::wstring endTag(std::wstring_view name) {
     std::wstring tag;
     appendEndTag(tag, name);

@@ -59,8 +59,8 @@ struct NoAttributes {
 // How element content is written.
 enum class Content { AsIs, Escaped };
 
+using tableobj::appendEndTag;
 // "</" name ">"
-void appendEndTag(std::wstring& out, std::wstring_view name);
 std::wstring endTag(std::wstring_view name);
 
 // The start tag of `name` with the attributes `addAttributes(StartTag&)`

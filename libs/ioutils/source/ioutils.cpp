@@ -9,14 +9,6 @@
 namespace ioutils {
 namespace {
 
-std::wstring decodeFile(std::string_view bytes) {
-    auto startsWith = [&](std::string_view mark) { return bytes.substr(0, mark.size()) == mark; };
-    if (startsWith("\xFF\xFE")) return wideFromUtf16(bytes.substr(2), false);
-    if (startsWith("\xFE\xFF")) return wideFromUtf16(bytes.substr(2), true);
-    if (startsWith("\xEF\xBB\xBF")) return wideFromUtf8(bytes.substr(3));
-    return wideFromUtf8(bytes);
-}
-
 class IOUtilsImpl final : public IIOUtils {
 public:
     std::wstring readTextFile(const std::wstring& path) const override {
@@ -31,7 +23,7 @@ public:
                 L"can not read file '" + path + L"'",
                 KAZ_CONTEXT(L"ioutils::IOUtilsImpl::readTextFile"), nullptr);
         }
-        return decodeFile(bytes.str());
+        return wideFromTextFile(bytes.str());
     }
 };
 

@@ -136,4 +136,11 @@ std::wstring wideFromUtf16(std::string_view bytes, bool bigEndian) {
     return out;
 }
 
+std::wstring wideFromTextFile(std::string_view bytes) {
+    if (bytes.starts_with("\xFF\xFE")) return wideFromUtf16(bytes.substr(2), false);
+    if (bytes.starts_with("\xFE\xFF")) return wideFromUtf16(bytes.substr(2), true);
+    if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+    return wideFromUtf8(bytes);
+}
+
 }  // namespace ioutils

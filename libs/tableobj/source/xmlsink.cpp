@@ -31,8 +31,4 @@ void XmlSink::appendStartTag(std::wstring& out, std::wstring_view element,
     out += L'>';
 }
 
-void XmlSink::appendEndTag(std::wstring& out, std::wstring_view element) {
-    out.append(L"</"sv).append(element) += L'>';
-}
-
 }  // namespace tableobj

@@ -41,7 +41,6 @@ public:
 private:
     static void appendStartTag(std::wstring& out, std::wstring_view element,
                                const TagAttributes& attributes);
-    static void appendEndTag(std::wstring& out, std::wstring_view element);
 
     IXmlWriter& out_;
     bool ok_ = true;

@@ -97,15 +97,11 @@ void assignAttributeValue(std::wstring& out, std::string_view delivered) {
         ioutils::assignWideFromUtf8(out, decodeAmpersands(delivered));
 }
 
-std::wstring attributeValue(std::string_view delivered) {
-    std::wstring value;
-    assignAttributeValue(value, delivered);
-    return value;
-}
-
 std::wstring namespaceName(const xmlChar* delivered) {
     if (delivered == nullptr) return std::wstring();
-    return attributeValue(reinterpret_cast<const char*>(delivered));
+    std::wstring value;
+    assignAttributeValue(value, reinterpret_cast<const char*>(delivered));
+    return value;
 }
 
 xmlErrorLevel severity(const xmlError& error) {

@@ -51,7 +51,6 @@ inline const xmlChar* asXmlChars(const std::string& text) {
 // occur there otherwise, so turning each "&#38;" back into "&", left to
 // right, restores the value exactly.
 std::string decodeAmpersands(std::string_view delivered);
-std::wstring attributeValue(std::string_view delivered);
 void assignAttributeValue(std::wstring& out, std::string_view delivered);
 std::wstring namespaceName(const xmlChar* delivered);  // empty for null
 

@@ -25,5 +25,8 @@ IOUTILS_API std::wstring wideFromUtf8(std::string_view text);
 IOUTILS_API void assignWideFromUtf8(std::wstring& out, std::string_view text);
 // UTF-16 code units in the given byte order, surrogate pairs joined.
 IOUTILS_API std::wstring wideFromUtf16(std::string_view bytes, bool bigEndian);
+// The bytes of a text file: UTF-16 in the order its byte-order mark gives,
+// else UTF-8 (a UTF-8 byte-order mark is dropped).
+IOUTILS_API std::wstring wideFromTextFile(std::string_view bytes);
 
 }  // namespace ioutils

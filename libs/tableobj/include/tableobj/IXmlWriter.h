@@ -49,6 +49,11 @@ bool buildPiece(IXmlWriter& out, Build&& build) {
     return out.write(std::move(piece));
 }
 
+// Appends "</" name ">".
+inline void appendEndTag(std::wstring& out, std::wstring_view name) {
+    out.append(L"</").append(name) += L'>';
+}
+
 // Hands `out` `text` as one piece.
 inline bool writePiece(IXmlWriter& out, std::wstring_view text) {
     return buildPiece(out, [text](std::wstring& piece) { piece += text; });
