@@ -9,6 +9,13 @@ bool encodable(char32_t c) {
     return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
 }
 
+// Copies a block of ASCII units, widening or narrowing them.
+template <class To, class From>
+To* copyBlock(To* out, const From* in) {
+    for (std::size_t i = 0; i < kAsciiBlock; ++i) out[i] = static_cast<To>(in[i]);
+    return out + kAsciiBlock;
+}
+
 char* putUtf8(char* out, char32_t c) {
     if (!encodable(c)) c = kReplacement;
     if (c < 0x80) {
@@ -86,11 +93,13 @@ void appendUtf8FromWide(std::string& out, std::wstring_view text) {
     const std::size_t start = out.size();
     out.resize(start + length);
     char* at = out.data() + start;
-    for (wchar_t c : text) {
-        if (static_cast<char32_t>(c) < 0x80)
-            *at++ = static_cast<char>(c);
-        else
-            at = putUtf8(at, static_cast<char32_t>(c));
+    for (std::size_t pos = 0; pos < text.size();) {
+        if (pos + kAsciiBlock <= text.size() && asciiBlock(text.data() + pos)) {
+            at = copyBlock(at, text.data() + pos);
+            pos += kAsciiBlock;
+        } else {
+            at = putUtf8(at, static_cast<char32_t>(text[pos++]));
+        }
     }
 }
 
@@ -104,10 +113,12 @@ void assignWideFromUtf8(std::wstring& out, std::string_view text) {
     out.resize(text.size());
     wchar_t* at = out.data();
     for (std::size_t pos = 0; pos < text.size();) {
-        if (static_cast<unsigned char>(text[pos]) < 0x80)
-            *at++ = static_cast<wchar_t>(text[pos++]);
-        else
+        if (pos + kAsciiBlock <= text.size() && asciiBlock(text.data() + pos)) {
+            at = copyBlock(at, reinterpret_cast<const unsigned char*>(text.data() + pos));
+            pos += kAsciiBlock;
+        } else {
             *at++ = static_cast<wchar_t>(decodeUtf8(text, pos));
+        }
     }
     out.resize(static_cast<std::size_t>(at - out.data()));
 }

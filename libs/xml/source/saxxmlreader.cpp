@@ -64,47 +64,43 @@ private:
     }
 
     // The first character at or after `from` that is not ASCII; whole
-    // blocks are tested at once, which the compiler turns into vector code.
+    // blocks are tested at once.
     std::size_t nextWideFrom(std::size_t from) const {
         std::size_t at = from;
-        while (at + kBlock <= text_.size() && !any(at, [](char32_t c) { return c >= 0x80; }))
-            at += kBlock;
+        while (at + ioutils::kAsciiBlock <= text_.size() && ioutils::asciiBlock(text_.data() + at))
+            at += ioutils::kAsciiBlock;
         while (at < text_.size() && static_cast<char32_t>(text_[at]) < 0x80) ++at;
         return at;
     }
 
-    // Whether `test` holds for any of the kBlock characters from `at`.
-    template <class Test>
-    bool any(std::size_t at, Test test) const {
-        bool found = false;
-        for (std::size_t i = 0; i < kBlock; ++i)
-            found |= test(static_cast<char32_t>(text_[at + i]));
-        return found;
-    }
-
-    // Counts the lines and columns up to `target` in one pass, skipping
-    // blocks that hold no line break.
+    // Moves line and column on to `target`, where the text holds a "<".
     void advanceTo(std::size_t target) {
         if (target < offset_) return;
-        std::size_t lineStart = text_.npos;
-        for (std::size_t i = offset_; i < target;) {
-            if (i + kBlock <= target &&
-                !any(i, [](char32_t c) { return c == U'\n' || c == U'\r'; })) {
-                i += kBlock;
-                continue;
-            }
-            if (text_[i] == L'\n' || (text_[i] == L'\r' && text_[i + 1] != L'\n')) {
-                ++line_;
-                lineStart = i + 1;
-            }
-            ++i;
+        const std::size_t breaks = lineBreaks(offset_, target);
+        if (breaks == 0) {
+            column_ += static_cast<int>(target - offset_);
+        } else {
+            line_ += static_cast<int>(breaks);
+            column_ = 1 + static_cast<int>(target - lineStart(target));
         }
-        column_ = lineStart == text_.npos ? column_ + static_cast<int>(target - offset_)
-                                          : 1 + static_cast<int>(target - lineStart);
         offset_ = target;
     }
 
-    static constexpr std::size_t kBlock = 16;
+    // The line breaks in [from, to), "\r\n" counted once at its "\n".
+    // Branch-free so that it becomes vector code; text_[to] exists.
+    std::size_t lineBreaks(std::size_t from, std::size_t to) const {
+        std::size_t count = 0;
+        for (std::size_t i = from; i < to; ++i)
+            count += static_cast<std::size_t>((text_[i] == L'\n') |
+                                              ((text_[i] == L'\r') & (text_[i + 1] != L'\n')));
+        return count;
+    }
+
+    // Where the line holding `at` begins.
+    std::size_t lineStart(std::size_t at) const {
+        while (at > 0 && text_[at - 1] != L'\n' && text_[at - 1] != L'\r') --at;
+        return at;
+    }
 
     std::wstring_view text_;
     std::size_t characters_ = 0;  // the characters that make up the first

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,6 +21,16 @@ IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text);
 inline std::size_t utf8Length(wchar_t c) {
     const auto code = static_cast<char32_t>(c);
     return 1 + (code >= 0x80) + (code >= 0x800) + (code >= 0x10000 && code <= 0x10FFFF);
+}
+// The units the ASCII fast paths test at once.
+inline constexpr std::size_t kAsciiBlock = 16;
+// Whether the kAsciiBlock units (char or wchar_t) from `at` are all ASCII.
+// Free of branches, so that the compiler tests the block with vector code.
+template <class Unit>
+bool asciiBlock(const Unit* at) {
+    std::uint32_t bits = 0;
+    for (std::size_t i = 0; i < kAsciiBlock; ++i) bits |= static_cast<std::uint32_t>(at[i]);
+    return bits < 0x80;
 }
 IOUTILS_API std::wstring wideFromUtf8(std::string_view text);
 // The same into `out`, reusing its storage.
