@@ -23,6 +23,7 @@ const std::wstring& ExtParamsCfgImpl::getName() const {
 unsigned int ExtParamsCfgImpl::append(INodeCfg* item) {
     IExtParamCfg* typed = castItem(item, L"append");
     if (hasExtParam(typed->getParamName())) return kNoPosition;
+    makeRoom();  // so that, once the name is entered, the append cannot fail
     index_.emplace(typed->getParamName(), typed);
     return appendItem(typed);
 }
@@ -31,6 +32,7 @@ unsigned int ExtParamsCfgImpl::insert(INodeCfg* item, unsigned int index) {
     IExtParamCfg* typed = castItem(item, L"insert");
     checkIndex(index, L"insert");
     if (hasExtParam(typed->getParamName())) return kNoPosition;
+    makeRoom();
     index_.emplace(typed->getParamName(), typed);
     insertItem(typed, index);
     return index;
@@ -47,12 +49,14 @@ INodeCfg* ExtParamsCfgImpl::remove(unsigned int index) {
 INodeCfg* ExtParamsCfgImpl::replace(INodeCfg* item, unsigned int index) {
     IExtParamCfg* typed = castItem(item, L"replace");
     checkIndex(index, L"replace");
+    if (items()[index] == typed) return nullptr;  // put in its own place
+    // Every key of the previous item, its name included, now finds the new
+    // one; the name's entry is made first, as the one step that can fail.
+    IExtParamCfg*& byName = index_[items()[index]->getParamName()];
     IExtParamCfg* previous = replaceItem(typed, index);
-    if (previous == nullptr) return nullptr;  // put in its own place
-    // Every key of the previous item, its name included, now finds the new one.
     for (auto& entry : index_)
         if (entry.second == previous) entry.second = typed;
-    index_[previous->getParamName()] = typed;
+    byName = typed;
     return previous;
 }
 

@@ -4,9 +4,8 @@
 
 namespace kaz::kazparser {
 
-FeaturesCfgImpl::FeaturesCfgImpl(const FeaturesCfgImpl& other) : NodeCollection(other) {
-    rebuildIndex();
-}
+FeaturesCfgImpl::FeaturesCfgImpl(const FeaturesCfgImpl& other)
+    : NodeCollection(other), index_(freshIndex()) {}
 
 const std::wstring& FeaturesCfgImpl::getName() const {
     return kinds::tag(INodeCfg::Features);
@@ -14,7 +13,9 @@ const std::wstring& FeaturesCfgImpl::getName() const {
 
 unsigned int FeaturesCfgImpl::append(INodeCfg* item) {
     IFeatureCfg* feature = castItem(item, L"append");
-    if (!index_.emplace(feature->getName(), getCount()).second) return kNoPosition;
+    if (contains(feature->getName())) return kNoPosition;
+    makeRoom();  // so that, once the name is entered, the append cannot fail
+    index_.emplace(feature->getName(), getCount());
     return appendItem(feature);
 }
 
@@ -24,7 +25,7 @@ unsigned int FeaturesCfgImpl::insert(INodeCfg* item, unsigned int index) {
     checkIndex(index, L"insert");
     if (takenElsewhere(feature->getName(), index)) return index;
     insertItem(feature, index);
-    indexFrom(index);
+    reindexAfter([&] { removeItem(index); });
     return index;
 }
 
@@ -33,14 +34,14 @@ INodeCfg* FeaturesCfgImpl::replace(INodeCfg* item, unsigned int index) {
     checkIndex(index, L"replace");
     if (takenElsewhere(feature->getName(), index)) return nullptr;
     IFeatureCfg* previous = replaceItem(feature, index);
-    rebuildIndex();
+    if (previous != nullptr) reindexAfter([&] { replaceItem(previous, index); });
     return previous;
 }
 
 INodeCfg* FeaturesCfgImpl::remove(unsigned int index) {
     checkIndex(index, L"remove");
     IFeatureCfg* feature = removeItem(index);
-    rebuildIndex();
+    reindexAfter([&] { insertItem(feature, index); });
     return feature;
 }
 
@@ -71,13 +72,10 @@ unsigned int FeaturesCfgImpl::positionOf(const std::wstring& name, const wchar_t
     return found->second;
 }
 
-void FeaturesCfgImpl::indexFrom(unsigned int first) {
-    for (unsigned int i = first; i < getCount(); ++i) index_[items()[i]->getName()] = i;
-}
-
-void FeaturesCfgImpl::rebuildIndex() {
-    index_.clear();
-    indexFrom(0);
+std::map<std::wstring, unsigned int> FeaturesCfgImpl::freshIndex() const {
+    std::map<std::wstring, unsigned int> index;
+    for (unsigned int i = 0; i < getCount(); ++i) index[items()[i]->getName()] = i;
+    return index;
 }
 
 }  // namespace kaz::kazparser

@@ -41,10 +41,14 @@ private:
     bool takenElsewhere(const std::wstring& name, unsigned int index) const;
     // The position of `name`; an unknown name raises the error naming `method`.
     unsigned int positionOf(const std::wstring& name, const wchar_t* method) const;
-    // Enters every feature from `first` on with its position; when two share
-    // a name, the later position wins.
-    void indexFrom(unsigned int first);
-    void rebuildIndex();
+    // Every feature's name with its position; when two share a name, the
+    // later position wins.
+    std::map<std::wstring, unsigned int> freshIndex() const;
+    template <class Undo>
+    void reindexAfter(Undo undo) {
+        reindex(
+            index_, [this] { return freshIndex(); }, undo);
+    }
 
     std::map<std::wstring, unsigned int> index_;
 };

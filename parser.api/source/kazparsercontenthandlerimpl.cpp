@@ -160,13 +160,18 @@ long KAZParserContentHandlerImpl::endElement(const wchar_t*, int, const wchar_t*
 }
 
 void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, std::wstring_view name) {
+    std::unique_ptr<INodeCfg> owned(child);  // until the parent or the refused list takes it
     INodeCfg* parent = top();
     try {
-        if (takeSampleData(parent, child) || parent->setChild(child)) return;
+        if (takeSampleData(parent, child) || parent->setChild(child)) {
+            owned.release();
+            return;
+        }
     } catch (kazexception::IKAZException* e) {
         addException(name, e);
     }
     refused_.append(child, nullptr);
+    owned.release();
 }
 
 // A fixed sample entry's setChild lets go of the data node it held, unfreed;

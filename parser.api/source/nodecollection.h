@@ -92,6 +92,21 @@ protected:
         return getCount();
     }
     void insertItem(Item* item, unsigned int index) { items_.insert(index, item, this); }
+    // Grows the list ahead of an append or insert, which then cannot fail.
+    void makeRoom() { items_.makeRoom(); }
+
+    // Replaces a collection's `index` by `fresh()` after a change to the
+    // list; should that fail, `undo` takes the change back, so that the
+    // list, its index and the caller's ownership of the item stay as they were.
+    template <class Index, class Fresh, class Undo>
+    static void reindex(Index& index, Fresh fresh, Undo undo) {
+        try {
+            index = fresh();  // a move: the old index stays whole until then
+        } catch (...) {
+            undo();
+            throw;
+        }
+    }
     // Null when `item` is already at `index`.
     Item* replaceItem(Item* item, unsigned int index) { return items_.replace(index, item, this); }
     Item* removeItem(unsigned int index) { return items_.remove(index); }

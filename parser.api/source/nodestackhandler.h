@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "contentsink.h"
@@ -53,9 +54,12 @@ protected:
     // The parent of the next element's node.
     INodeCfg* nextParent() const { return top() != nullptr ? top() : parent_; }
     // Opens an element whose node is `node`, taking its content through
-    // `content` (null: none) in the way `mode` tells the handler.
+    // `content` (null: none) in the way `mode` tells the handler. The stack
+    // owns `node` from here, even when it cannot grow.
     void push(INodeCfg* node, ContentSink* content, int mode = 0) {
+        std::unique_ptr<INodeCfg> owned(node);
         stack_.push_back({node, content, mode, true});
+        owned.release();
     }
     // Opens an element that made no node: its content goes where its
     // parent's goes.

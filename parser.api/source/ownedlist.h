@@ -22,10 +22,22 @@ public:
     Item* operator[](std::size_t index) const { return items_[index]; }
     const std::vector<Item*>& items() const { return items_; }
 
-    void append(Item* item, INodeCfg* owner) { items_.push_back(adopted(item, owner)); }
+    // Should the list fail to grow, `item` stays with the caller.
+    void append(Item* item, INodeCfg* owner) {
+        makeRoom();
+        items_.push_back(adopted(item, owner));
+    }
 
     void insert(std::size_t index, Item* item, INodeCfg* owner) {
+        makeRoom();
         items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index), adopted(item, owner));
+    }
+
+    // Grows the list ahead of an append or insert, so that these cannot
+    // fail once they take the item, nor what the owner does after them.
+    void makeRoom() {
+        if (items_.size() == items_.capacity())
+            items_.reserve(items_.empty() ? 4 : 2 * items_.capacity());
     }
 
     // Puts `item` at `index` and hands back the item that was there,

@@ -3,6 +3,7 @@
 #include "nodekinds.h"
 
 #include <memory>
+#include <new>
 
 #include "kazparser/IUseFixedPresentationElementCfg.h"
 #include "kazparser/KAZConfigFactory.h"
@@ -55,6 +56,7 @@ IUsePresentationElementCfg* PresentationElementsCfgImpl::resolved(
     const std::wstring fileName = reference.getRefFileName();
     Owned<IUsePresentationElementCfg> made(KAZConfigFactory::createUseFixedPresentationElementCfg(
         static_cast<const std::wstring*>(nullptr), getParent()));
+    if (made == nullptr) throw std::bad_alloc();  // how the empty form says memory ran out
     auto* fixed = dynamic_cast<IUseFixedPresentationElementCfg*>(made.get());
     if (fixed == nullptr) return nullptr;
     Owned<IPresentationElementCfg> element(

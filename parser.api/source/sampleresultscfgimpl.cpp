@@ -15,9 +15,7 @@ SampleResultsCfgImpl::SampleResultsCfgImpl(const ElementStart& element, INodeCfg
 }
 
 SampleResultsCfgImpl::SampleResultsCfgImpl(const SampleResultsCfgImpl& other)
-    : NodeCollection(other), name_(other.name_) {
-    reindex();
-}
+    : NodeCollection(other), name_(other.name_), index_(freshIndex()) {}
 
 const std::wstring& SampleResultsCfgImpl::getName() const {
     return kinds::tag(INodeCfg::SampleResults);
@@ -31,25 +29,26 @@ bool SampleResultsCfgImpl::writeXml(IXmlWriter& out) const {
 // call leaves the index as it was.
 unsigned int SampleResultsCfgImpl::append(INodeCfg* item) {
     const unsigned int count = NodeCollection::append(item);
-    reindex();
+    reindexAfter([&] { removeItem(count - 1); });
     return count;
 }
 
 unsigned int SampleResultsCfgImpl::insert(INodeCfg* item, unsigned int index) {
     NodeCollection::insert(item, index);
-    reindex();
+    reindexAfter([&] { removeItem(index); });
     return index;
 }
 
 INodeCfg* SampleResultsCfgImpl::replace(INodeCfg* item, unsigned int index) {
     INodeCfg* previous = NodeCollection::replace(item, index);
-    reindex();
+    if (previous != nullptr)
+        reindexAfter([&] { replaceItem(static_cast<ISampleResultCfg*>(previous), index); });
     return previous;
 }
 
 INodeCfg* SampleResultsCfgImpl::remove(unsigned int index) {
     INodeCfg* item = NodeCollection::remove(index);
-    reindex();
+    reindexAfter([&] { insertItem(static_cast<ISampleResultCfg*>(item), index); });
     return item;
 }
 
@@ -69,9 +68,10 @@ ISampleResultCfg* SampleResultsCfgImpl::operator[](const std::wstring& name) con
 
 // Rebuilt from the list, so that the index never names an entry the list
 // no longer holds; a later entry of the same name wins.
-void SampleResultsCfgImpl::reindex() {
-    index_.clear();
-    for (ISampleResultCfg* item : items()) index_[item->getSampleName()] = item;
+std::map<std::wstring, ISampleResultCfg*> SampleResultsCfgImpl::freshIndex() const {
+    std::map<std::wstring, ISampleResultCfg*> index;
+    for (ISampleResultCfg* item : items()) index[item->getSampleName()] = item;
+    return index;
 }
 
 }  // namespace kaz::kazparser

@@ -41,7 +41,12 @@ public:
 private:
     SampleResultsCfgImpl(const SampleResultsCfgImpl& other);
 
-    void reindex();
+    std::map<std::wstring, ISampleResultCfg*> freshIndex() const;
+    template <class Undo>
+    void reindexAfter(Undo undo) {
+        reindex(
+            index_, [this] { return freshIndex(); }, undo);
+    }
 
     std::wstring name_;
     std::map<std::wstring, ISampleResultCfg*> index_;

@@ -118,8 +118,8 @@ void readProperties(const Node& properties, tableobj::ITable& table) {
         const IElement::ElementType type = datatypeOf(*property, L"readTable");
         const std::wstring text = valueTextOf(*property, L"readTable");
         checkValue(*property, type, text, L"readTable");
-        table.setProperty(attributeOf(*property, L"name"),
-                          TableobjFactory::createScalar(type, text));
+        const std::wstring name = attributeOf(*property, L"name");
+        table.setProperty(name, TableobjFactory::createScalar(type, text));  // owns it at once
     }
 }
 

@@ -1,7 +1,6 @@
 #include "memobject/MemObject.h"
 
 #include <atomic>
-#include <cstdlib>
 
 namespace {
 std::atomic<long> live{0};
@@ -22,7 +21,9 @@ MemObject::~MemObject() = default;
 
 void* MemObject::operator new(std::size_t size, const std::nothrow_t&) noexcept {
     if (!allocationAllowed()) return nullptr;
-    void* p = std::malloc(size == 0 ? 1 : size);
+    // Through the global allocator, so that a program replacing it sees
+    // every allocation.
+    void* p = ::operator new(size, std::nothrow);
     if (p != nullptr) ++live;
     return p;
 }
@@ -36,7 +37,7 @@ void* MemObject::operator new(std::size_t size) {
 void MemObject::operator delete(void* p) noexcept {
     if (p == nullptr) return;
     --live;
-    std::free(p);
+    ::operator delete(p);
 }
 
 void MemObject::operator delete(void* p, const std::nothrow_t&) noexcept {

@@ -279,11 +279,16 @@ long ParseSession::run() {
 }
 
 bool ParseSession::open() {
+    // Errors the context raises while it is reset or made come to this
+    // session, never to the one that used it before.
     parser_ = std::move(spareParser);
-    if (parser_ != nullptr && !detail::resetPushParser(parser_->ctxt)) parser_.reset();
+    if (parser_ != nullptr) {
+        parser_->ctxt->userData = this;
+        if (!detail::resetPushParser(parser_->ctxt)) parser_.reset();
+    }
     if (parser_ == nullptr) {
         auto made = std::make_unique<ReusableParser>();
-        made->ctxt = detail::openPushParser(makeHandler(), nullptr);
+        made->ctxt = detail::openPushParser(makeHandler(), this);
         if (made->ctxt == nullptr) return false;
         made->names.attach(made->ctxt->dict);
         parser_ = std::move(made);
