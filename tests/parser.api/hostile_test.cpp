@@ -1,0 +1,118 @@
+// Hostile and degenerate texts: each ends in a tree or in the defined
+// error, frees all it made, and stays within its time (the test's timeout)
+// and memory.
+#include <string>
+
+#include "environmentadapter/IEnvironmentAdapter.h"
+#include "testsupport.h"
+
+namespace {
+
+using namespace kaztest;
+
+std::wstring repeated(std::wstring_view piece, std::size_t times) {
+    std::wstring text;
+    text.reserve(piece.size() * times);
+    for (std::size_t i = 0; i < times; ++i) text += piece;
+    return text;
+}
+
+std::wstring nested(std::size_t depth) {
+    return repeated(L"<a>", depth) + repeated(L"</a>", depth);
+}
+
+std::wstring attributes(std::size_t count) {
+    std::wstring text = L"<ExtParams";
+    for (std::size_t i = 0; i < count; ++i) text += L" a" + std::to_wstring(i) + L"=\"v\"";
+    return text + L"/>";
+}
+
+// What the builder made of a text: the root's written size, or null with
+// the reader's error as shown (its last line), or the error it raised.
+std::wstring outcome(const std::wstring& text) {
+    MessageCapture shown;
+    std::wstring result;
+    try {
+        NodePtr<> root(KAZConfigFactory::createNodeCfg(&text, nullptr));
+        result = root == nullptr ? L"null" : std::to_wstring(root->toXml().size()) + L" written";
+    } catch (IKAZException* e) {
+        result = L"error: " + e->getMessage();
+        e->release();
+    }
+    if (!shown.messages().empty()) {
+        std::wstring message = shown.messages().front().second;
+        while (!message.empty() && message.back() == L'\n') message.pop_back();
+        result += L": " + message.substr(message.rfind(L'\n') + 1);
+    }
+    return result;
+}
+
+struct Hostile {
+    const char* name;
+    std::wstring (*text)();  // made when the test runs: some are large
+    std::wstring expected;
+};
+
+// The root directory is fixed, so that the written size of macros is known.
+class HostileTest : public LeakCheckedTest, public ::testing::WithParamInterface<Hostile> {
+protected:
+    void SetUp() override {
+        LeakCheckedTest::SetUp();
+        kaz::environmentadapter::IEnvironmentAdapter::getInstance().setRootDirectory(L"/kaz");
+    }
+    void TearDown() override {
+        kaz::environmentadapter::IEnvironmentAdapter::getInstance().resetRootDirectory();
+        LeakCheckedTest::TearDown();
+    }
+};
+
+TEST_P(HostileTest, EndsInATreeOrTheDefinedError) {
+    EXPECT_EQ(outcome(GetParam().text()), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, HostileTest,
+    ::testing::Values(
+        Hostile{"InternalEntityExpansion",
+                [] {
+                    return std::wstring(
+                        L"<!DOCTYPE a [<!ENTITY x \"xxxxxxxxxx\">"
+                        L"<!ENTITY y \"&x;&x;&x;&x;&x;&x;&x;&x;&x;&x;\">]><a>&y;</a>");
+                },
+                L"null: document type declarations are not allowed"},
+        Hostile{"ExternalEntity",
+                [] {
+                    return std::wstring(
+                        L"<!DOCTYPE a [<!ENTITY e SYSTEM \"/etc/passwd\">]><a>&e;</a>");
+                },
+                L"null: document type declarations are not allowed"},
+        Hostile{"UndeclaredEntity", [] { return std::wstring(L"<a>&e;</a>"); },
+                L"null: Entity 'e' not defined"},
+        Hostile{"Nesting100000Deep", [] { return nested(100000); },
+                L"null: elements nested deeper than 256 levels"},
+        Hostile{"TenMegabyteAttribute",
+                [] { return L"<ExtParams desc=\"" + std::wstring(10u << 20, L'x') + L"\"/>"; },
+                L"null: internal error: Huge input lookup"},
+        Hostile{"HundredThousandAttributes", [] { return attributes(100000); }, L"23 written"},
+        Hostile{"HundredThousandMacros",
+                [] {
+                    return L"<PresentationGroup name=\"" +
+                           repeated(L"[Kestrelon.RootDirectory]", 100000) + L"\"/>";
+                },
+                L"400047 written"},
+        Hostile{"MillionSmallElements",
+                [] { return L"<Features>" + repeated(L"<f>1</f>", 1000000) + L"</Features>"; },
+                L"29 written"},
+        Hostile{"Nul", [] { return std::wstring(L"<a>x\0y</a>", 10); },
+                L"null: Char 0x0 out of allowed range"},
+        Hostile{"LoneSurrogate", [] { return std::wstring(L"<a>\xD800</a>"); }, L"7 written"},
+        Hostile{"BeyondUnicode", [] { return std::wstring(L"<a>") + wchar_t(0x110000) + L"</a>"; },
+                L"7 written"},
+        Hostile{"Empty", [] { return std::wstring(); }, L"null"},
+        Hostile{"WhitespaceOnly", [] { return std::wstring(L" \r\n\t "); },
+                L"null: Document is empty"},
+        Hostile{"DeclarationOnly", [] { return std::wstring(L"<?xml version=\"1.0\"?>"); },
+                L"null: Extra content at the end of the document"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
