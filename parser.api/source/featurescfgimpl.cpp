@@ -25,7 +25,7 @@ unsigned int FeaturesCfgImpl::insert(INodeCfg* item, unsigned int index) {
     checkIndex(index, L"insert");
     if (takenElsewhere(feature->getName(), index)) return index;
     insertItem(feature, index);
-    reindexAfter([&] { removeItem(index); });
+    reindex(index_, [&] { removeItem(index); });
     return index;
 }
 
@@ -34,14 +34,14 @@ INodeCfg* FeaturesCfgImpl::replace(INodeCfg* item, unsigned int index) {
     checkIndex(index, L"replace");
     if (takenElsewhere(feature->getName(), index)) return nullptr;
     IFeatureCfg* previous = replaceItem(feature, index);
-    if (previous != nullptr) reindexAfter([&] { replaceItem(previous, index); });
+    if (previous != nullptr) reindex(index_, [&] { replaceItem(previous, index); });
     return previous;
 }
 
 INodeCfg* FeaturesCfgImpl::remove(unsigned int index) {
     checkIndex(index, L"remove");
     IFeatureCfg* feature = removeItem(index);
-    reindexAfter([&] { insertItem(feature, index); });
+    reindex(index_, [&] { insertItem(feature, index); });
     return feature;
 }
 

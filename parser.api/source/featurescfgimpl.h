@@ -35,6 +35,8 @@ public:
     IFeatureCfg* remove(const std::wstring& name) override;
 
 private:
+    friend NodeCollection;  // asks for freshIndex()
+
     FeaturesCfgImpl(const FeaturesCfgImpl& other);
 
     // Whether `name` is taken by another feature than the one at `index`.
@@ -44,11 +46,6 @@ private:
     // Every feature's name with its position; when two share a name, the
     // later position wins.
     std::map<std::wstring, unsigned int> freshIndex() const;
-    template <class Undo>
-    void reindexAfter(Undo undo) {
-        reindex(
-            index_, [this] { return freshIndex(); }, undo);
-    }
 
     std::map<std::wstring, unsigned int> index_;
 };

@@ -95,13 +95,14 @@ protected:
     // Grows the list ahead of an append or insert, which then cannot fail.
     void makeRoom() { items_.makeRoom(); }
 
-    // Replaces a collection's `index` by `fresh()` after a change to the
-    // list; should that fail, `undo` takes the change back, so that the
-    // list, its index and the caller's ownership of the item stay as they were.
-    template <class Index, class Fresh, class Undo>
-    static void reindex(Index& index, Fresh fresh, Undo undo) {
+    // Replaces `index` by the collection's freshIndex() after a change to
+    // the list; should that fail, `undo` takes the change back, so that the
+    // list, its index and the caller's ownership of the item stay as they
+    // were. The fresh index is moved in, so the old one stays whole until then.
+    template <class Index, class Undo>
+    void reindex(Index& index, Undo undo) {
         try {
-            index = fresh();  // a move: the old index stays whole until then
+            index = static_cast<const Derived*>(this)->freshIndex();
         } catch (...) {
             undo();
             throw;

@@ -29,26 +29,26 @@ bool SampleResultsCfgImpl::writeXml(IXmlWriter& out) const {
 // call leaves the index as it was.
 unsigned int SampleResultsCfgImpl::append(INodeCfg* item) {
     const unsigned int count = NodeCollection::append(item);
-    reindexAfter([&] { removeItem(count - 1); });
+    reindex(index_, [&] { removeItem(count - 1); });
     return count;
 }
 
 unsigned int SampleResultsCfgImpl::insert(INodeCfg* item, unsigned int index) {
     NodeCollection::insert(item, index);
-    reindexAfter([&] { removeItem(index); });
+    reindex(index_, [&] { removeItem(index); });
     return index;
 }
 
 INodeCfg* SampleResultsCfgImpl::replace(INodeCfg* item, unsigned int index) {
     INodeCfg* previous = NodeCollection::replace(item, index);
     if (previous != nullptr)
-        reindexAfter([&] { replaceItem(static_cast<ISampleResultCfg*>(previous), index); });
+        reindex(index_, [&] { replaceItem(static_cast<ISampleResultCfg*>(previous), index); });
     return previous;
 }
 
 INodeCfg* SampleResultsCfgImpl::remove(unsigned int index) {
     INodeCfg* item = NodeCollection::remove(index);
-    reindexAfter([&] { insertItem(static_cast<ISampleResultCfg*>(item), index); });
+    reindex(index_, [&] { insertItem(static_cast<ISampleResultCfg*>(item), index); });
     return item;
 }
 

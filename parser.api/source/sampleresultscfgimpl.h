@@ -39,14 +39,11 @@ public:
     ISampleResultCfg* operator[](const std::wstring& name) const override;
 
 private:
+    friend NodeCollection;  // asks for freshIndex()
+
     SampleResultsCfgImpl(const SampleResultsCfgImpl& other);
 
     std::map<std::wstring, ISampleResultCfg*> freshIndex() const;
-    template <class Undo>
-    void reindexAfter(Undo undo) {
-        reindex(
-            index_, [this] { return freshIndex(); }, undo);
-    }
 
     std::wstring name_;
     std::map<std::wstring, ISampleResultCfg*> index_;
