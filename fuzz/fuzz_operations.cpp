@@ -4,6 +4,7 @@
 // else, and that nothing is left once the roots are deleted. Input: a count n,
 // n bytes of operations, then a configuration text whose tree is the first
 // root (the sample below when the text builds none).
+#include <map>
 #include <memory>
 #include <set>
 #include <type_traits>
@@ -99,6 +100,16 @@ const Position kPositions[] = {
              &ISampleFixedResultCfg::setData, nullptr, nullptr>(),
 };
 
+// The typed positions of a node: those of the first node of its type met.
+const std::vector<const Position*>& positionsOf(const INodeCfg* node) {
+    static std::map<INodeCfg::NodeType, std::vector<const Position*>> known;
+    const auto [found, added] = known.try_emplace(node->getNodeType());
+    if (added)
+        for (const Position& p : kPositions)
+            if (p.is(node)) found->second.push_back(&p);
+    return found->second;
+}
+
 // Calls `f` with each node `node` holds: its children and what its typed
 // positions hold (which need not be children: a replaced input of an engine
 // or an input configuration, say), null entries left out.
@@ -106,9 +117,8 @@ template <class F>
 void forEachHeld(INodeCfg* node, F&& f) {
     for (unsigned int i = 0; i < node->getChildCount(); ++i)
         if (INodeCfg* child = node->getChild(i)) f(child);
-    for (const Position& p : kPositions)
-        if (p.is(node))
-            if (INodeCfg* child = p.get(node)) f(child);
+    for (const Position* p : positionsOf(node))
+        if (INodeCfg* child = p->get(node)) f(child);
 }
 
 // The objects of a typed value, counted as those its deep copy makes.
@@ -142,7 +152,7 @@ public:
     void step(Input& in);
 
 private:
-    static constexpr std::size_t kMostRoots = 12, kMostNodes = 600;
+    static constexpr std::size_t kMostRoots = 12, kMostNodes = 200;
 
     // Every node the roots hold, each once, in pre-order.
     std::vector<INodeCfg*> nodes() const {
@@ -168,7 +178,7 @@ private:
     template <class T = INodeCfg>
     T* pick(std::uint8_t choice) const {
         std::vector<T*> found;
-        for (INodeCfg* node : nodes())
+        for (INodeCfg* node : nodes_)
             if (auto* typed = dynamic_cast<T*>(node)) found.push_back(typed);
         return found.empty() ? nullptr : found[choice % found.size()];
     }
@@ -193,12 +203,14 @@ private:
 
     const long live_;  // before the first root was made
     std::vector<INodeCfg*> roots_;
+    std::vector<INodeCfg*> nodes_;       // what the roots held when the step began
     std::vector<INodeCfg*> handedBack_;  // by the operation being run
 };
 
 void Harness::step(Input& in) {
     const std::uint8_t op = in.next() % 10;
     if (roots_.empty() && op != 0) return;
+    nodes_ = nodes();
     if (op == 0) {
         if (roots_.size() < kMostRoots)
             roots_.push_back(kKinds[in.next() % kKinds.size()].create(nullptr, nullptr));
@@ -227,7 +239,7 @@ void Harness::step(Input& in) {
 // clone, write, deleteChildren or setChild.
 void Harness::editNode(std::uint8_t op, INodeCfg& node, Input& in) {
     if (op == 2) {
-        if (roots_.size() >= kMostRoots || nodes().size() >= kMostNodes) return;
+        if (roots_.size() >= kMostRoots || nodes_.size() >= kMostNodes) return;
         INodeCfg* copy = node.clone();
         copy->setParent(nullptr);
         roots_.push_back(copy);
@@ -280,9 +292,8 @@ void Harness::editCollection(Input& in) {
 // set, replace or release at one typed position of a node.
 void Harness::editPosition(Input& in) {
     std::vector<std::pair<INodeCfg*, const Position*>> found;
-    for (INodeCfg* node : nodes())
-        for (const Position& p : kPositions)
-            if (p.is(node)) found.emplace_back(node, &p);
+    for (INodeCfg* node : nodes_)
+        for (const Position* p : positionsOf(node)) found.emplace_back(node, p);
     if (found.empty()) return;
     const auto [node, p] = found[in.next() % found.size()];
     const std::uint8_t how = in.next() % 3;
