@@ -9,27 +9,6 @@
 #include "tableobj/XmlEscape.h"
 
 namespace kaz::kazparser {
-namespace {
-
-// Appends `text` escaped, with the characters a reader would normalise
-// written as character references, so that it reads back the same.
-void appendProtected(std::wstring& out, std::wstring_view text, bool inAttribute) {
-    const std::size_t start = out.size();
-    if (inAttribute)
-        tableobj::appendEscapedAttribute(out, text);
-    else
-        tableobj::appendEscapedText(out, text);
-    const wchar_t* normalised = inAttribute ? L"\r\n\t" : L"\r";
-    for (std::size_t p = out.find_first_of(normalised, start); p != std::wstring::npos;
-         p = out.find_first_of(normalised, p)) {
-        const wchar_t* reference = out[p] == L'\r'   ? L"&#13;"
-                                   : out[p] == L'\n' ? L"&#10;"
-                                                     : L"&#9;";
-        out.replace(p, 1, reference);
-    }
-}
-
-}  // namespace
 
 XNodeCfgImpl::XNodeCfgImpl(INodeCfg* parent) : NodeCollection(parent) {}
 
@@ -50,14 +29,14 @@ bool XNodeCfgImpl::writeXml(IXmlWriter& out) const {
         for (const auto& [name, value] : attributes_) {
             const std::wstring_view protectedValue = value;
             tag.attribute(name, [protectedValue](std::wstring& text) {
-                appendProtected(text, protectedValue, true);
+                tableobj::appendEscapedAttribute(text, protectedValue);
             });
         }
     };
     return kazparser::writeElement(out, getName(), addAttributes, [this](IXmlWriter& to) {
         if (!text_.empty())
             tableobj::buildPiece(
-                to, [this](std::wstring& text) { appendProtected(text, text_, false); });
+                to, [this](std::wstring& text) { tableobj::appendEscapedText(text, text_); });
         writeChildren(to);
     });
 }

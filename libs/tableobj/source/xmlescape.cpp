@@ -10,7 +10,9 @@ constexpr const wchar_t* kAttributeMarkup = L"&<>\"";
 // whole. The ampersand rule is the historical one: an "&" followed by "a"
 // or "A" is taken for an entity and kept, and the search for the next "&"
 // resumes three characters after it, so an "&" two places on is kept too.
-void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) {
+// With `protect`, the characters a reader normalises (carriage returns, and
+// in attribute values tabs and line breaks) become character references.
+void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute, bool protect) {
     std::size_t run = 0;         // start of the text not yet appended
     std::size_t keptBefore = 0;  // an "&" before this position is kept
     for (std::size_t p = 0; p < text.size(); ++p) {
@@ -32,6 +34,15 @@ void appendEscaped(std::wstring& out, std::wstring_view text, bool inAttribute) 
             case L'"':
                 if (inAttribute) replacement = L"&quot;";
                 break;
+            case L'\r':
+                if (protect) replacement = L"&#13;";
+                break;
+            case L'\n':
+                if (protect && inAttribute) replacement = L"&#10;";
+                break;
+            case L'\t':
+                if (protect && inAttribute) replacement = L"&#9;";
+                break;
             default:
                 break;
         }
@@ -47,7 +58,7 @@ void escapeInPlace(std::wstring& text, bool inAttribute) {
         return;
     std::wstring escaped;
     escaped.reserve(text.size() + 16);
-    appendEscaped(escaped, text, inAttribute);
+    appendEscaped(escaped, text, inAttribute, false);
     text.swap(escaped);
 }
 
@@ -62,11 +73,11 @@ void escapeAttribute(std::wstring& text) {
 }
 
 void appendEscapedText(std::wstring& out, std::wstring_view text) {
-    appendEscaped(out, text, false);
+    appendEscaped(out, text, false, true);
 }
 
 void appendEscapedAttribute(std::wstring& out, std::wstring_view text) {
-    appendEscaped(out, text, true);
+    appendEscaped(out, text, true, true);
 }
 
 }  // namespace tableobj

@@ -6,9 +6,9 @@
 namespace kaz::kazparser {
 
 // A sample entry holding its value inline ("SampleFixedResult") as at most
-// one data node. setChild takes a data node without re-parenting it; the
-// data node it displaces is detached but stays alive until the entry is
-// deleted, which deletes it.
+// one data node. setChild takes a data node without re-parenting it and lets
+// go of the data node it displaces: detached and alive, it is the caller's to
+// delete (take it with getData() first; setData deletes it).
 class KAZPARSER_API ISampleFixedResultCfg : public ISampleResultCfg {
 public:
     // The data node (still owned by this entry), or null.

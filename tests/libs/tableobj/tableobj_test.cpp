@@ -290,6 +290,12 @@ TEST(XmlEscape, EscapesTextAndAttributesByTheHistoricalRules) {
         EXPECT_EQ(text, c.text) << L"text of " << c.input;
         EXPECT_EQ(attribute, c.attribute) << L"attribute of " << c.input;
     }
+    // Written text also keeps what a reader would normalise, as references.
+    std::wstring text, attribute;
+    appendEscapedText(text, L"a\r\n\tb&<");
+    appendEscapedAttribute(attribute, L"a\r\n\tb&<");
+    EXPECT_EQ(text, L"a&#13;\n\tb&amp;&lt;");
+    EXPECT_EQ(attribute, L"a&#13;&#10;&#9;b&amp;&lt;");
 }
 
 }  // namespace
