@@ -91,8 +91,8 @@ private:
     std::size_t lineBreaks(std::size_t from, std::size_t to) const {
         std::size_t count = 0;
         for (std::size_t i = from; i < to; ++i)
-            count += static_cast<std::size_t>((text_[i] == L'\n') |
-                                              ((text_[i] == L'\r') & (text_[i + 1] != L'\n')));
+            count += static_cast<std::size_t>(
+                int{text_[i] == L'\n'} | (int{text_[i] == L'\r'} & int{text_[i + 1] != L'\n'}));
         return count;
     }
 
