@@ -27,8 +27,16 @@ std::wstring attributes(std::size_t count) {
     return text + L"/>";
 }
 
+// The value after `label` in the reader's error as shown.
+std::wstring field(const std::wstring& shown, const std::wstring& label) {
+    const std::size_t at = shown.find(label);
+    return at == shown.npos
+               ? L"?"
+               : shown.substr(at + label.size(), shown.find(L'\n', at) - at - label.size());
+}
+
 // What the builder made of a text: the root's written size, or null with
-// the reader's error as shown (its last line), or the error it raised.
+// the reader's error as shown (where and what), or the error it raised.
 std::wstring outcome(const std::wstring& text) {
     MessageCapture shown;
     std::wstring result;
@@ -42,7 +50,8 @@ std::wstring outcome(const std::wstring& text) {
     if (!shown.messages().empty()) {
         std::wstring message = shown.messages().front().second;
         while (!message.empty() && message.back() == L'\n') message.pop_back();
-        result += L": " + message.substr(message.rfind(L'\n') + 1);
+        result += L" at " + field(message, L"Line : ") + L":" + field(message, L"Character : ") +
+                  L": " + message.substr(message.rfind(L'\n') + 1);
     }
     return result;
 }
@@ -51,6 +60,8 @@ struct Hostile {
     const char* name;
     std::wstring (*text)();  // made when the test runs: some are large
     std::wstring expected;
+
+    friend void PrintTo(const Hostile& hostile, std::ostream* out) { *out << hostile.name; }
 };
 
 // The root directory is fixed, so that the written size of macros is known.
@@ -79,20 +90,20 @@ INSTANTIATE_TEST_SUITE_P(
                         L"<!DOCTYPE a [<!ENTITY x \"xxxxxxxxxx\">"
                         L"<!ENTITY y \"&x;&x;&x;&x;&x;&x;&x;&x;&x;&x;\">]><a>&y;</a>");
                 },
-                L"null: document type declarations are not allowed"},
+                L"null at 1:13: document type declarations are not allowed"},
         Hostile{"ExternalEntity",
                 [] {
                     return std::wstring(
                         L"<!DOCTYPE a [<!ENTITY e SYSTEM \"/etc/passwd\">]><a>&e;</a>");
                 },
-                L"null: document type declarations are not allowed"},
+                L"null at 1:13: document type declarations are not allowed"},
         Hostile{"UndeclaredEntity", [] { return std::wstring(L"<a>&e;</a>"); },
-                L"null: Entity 'e' not defined"},
+                L"null at 1:7: Entity 'e' not defined"},
         Hostile{"Nesting100000Deep", [] { return nested(100000); },
-                L"null: elements nested deeper than 256 levels"},
+                L"null at 1:771: elements nested deeper than 256 levels"},
         Hostile{"TenMegabyteAttribute",
                 [] { return L"<ExtParams desc=\"" + std::wstring(10u << 20, L'x') + L"\"/>"; },
-                L"null: internal error: Huge input lookup"},
+                L"null at 1:1: internal error: Huge input lookup"},
         Hostile{"HundredThousandAttributes", [] { return attributes(100000); }, L"23 written"},
         Hostile{"HundredThousandMacros",
                 [] {
@@ -104,15 +115,18 @@ INSTANTIATE_TEST_SUITE_P(
                 [] { return L"<Features>" + repeated(L"<f>1</f>", 1000000) + L"</Features>"; },
                 L"29 written"},
         Hostile{"Nul", [] { return std::wstring(L"<a>x\0y</a>", 10); },
-                L"null: Char 0x0 out of allowed range"},
-        Hostile{"LoneSurrogate", [] { return std::wstring(L"<a>\xD800</a>"); }, L"7 written"},
+                L"null at 1:5: Char 0x0 out of allowed range"},
+        Hostile{"LoneSurrogate", [] { return std::wstring(L"<a>\xD800</a>"); },
+                L"null at 1:4: Char 0xD800 out of allowed range"},
         Hostile{"BeyondUnicode", [] { return std::wstring(L"<a>") + wchar_t(0x110000) + L"</a>"; },
-                L"7 written"},
+                L"null at 1:4: Char 0x110000 out of allowed range"},
+        Hostile{"BeyondFourBytes", [] { return std::wstring(L"<a b='") + wchar_t(-1) + L"'/>"; },
+                L"null at 1:7: Char 0x1FFFFF out of allowed range"},
         Hostile{"Empty", [] { return std::wstring(); }, L"null"},
         Hostile{"WhitespaceOnly", [] { return std::wstring(L" \r\n\t "); },
-                L"null: Document is empty"},
+                L"null at 1:1: Document is empty"},
         Hostile{"DeclarationOnly", [] { return std::wstring(L"<?xml version=\"1.0\"?>"); },
-                L"null: Extra content at the end of the document"}),
+                L"null at 1:22: Extra content at the end of the document"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

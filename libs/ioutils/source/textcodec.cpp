@@ -1,5 +1,7 @@
 #include "ioutils/TextCodec.h"
 
+#include <algorithm>
+
 namespace ioutils {
 namespace {
 
@@ -16,8 +18,11 @@ To* copyBlock(To* out, const From* in) {
     return out + kAsciiBlock;
 }
 
-char* putUtf8(char* out, char32_t c) {
-    if (!encodable(c)) c = kReplacement;
+constexpr char32_t kLargestFourBytes = 0x1FFFFF;
+
+char* putUtf8(char* out, char32_t c, Unencodable unencodable) {
+    if (!encodable(c))
+        c = unencodable == Unencodable::Replace ? kReplacement : std::min(c, kLargestFourBytes);
     if (c < 0x80) {
         *out++ = static_cast<char>(c);
     } else if (c < 0x800) {
@@ -87,9 +92,9 @@ std::string utf8FromWide(std::wstring_view text) {
     return out;
 }
 
-void appendUtf8FromWide(std::string& out, std::wstring_view text) {
+void appendUtf8FromWide(std::string& out, std::wstring_view text, Unencodable unencodable) {
     std::size_t length = 0;
-    for (wchar_t c : text) length += utf8Length(c);
+    for (wchar_t c : text) length += utf8Length(c, unencodable);
     const std::size_t start = out.size();
     out.resize(start + length);
     char* at = out.data() + start;
@@ -98,7 +103,7 @@ void appendUtf8FromWide(std::string& out, std::wstring_view text) {
             at = copyBlock(at, text.data() + pos);
             pos += kAsciiBlock;
         } else {
-            at = putUtf8(at, static_cast<char32_t>(text[pos++]));
+            at = putUtf8(at, static_cast<char32_t>(text[pos++]), unencodable);
         }
     }
 }

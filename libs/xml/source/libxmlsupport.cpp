@@ -38,14 +38,15 @@ bool resetPushParser(xmlParserCtxtPtr ctxt) {
 
 void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop) {
     // Converted a piece at a time, so that no UTF-8 copy of the whole text
-    // is ever made.
+    // is ever made. A value no UTF-8 may hold goes in as the bytes of its
+    // own value, for libxml2 to refuse where it stands.
     constexpr std::size_t kPieceLength = 16 * 1024;
     std::string piece;
     for (std::size_t offset = 0; offset < text.size() && !stop;) {
         const std::wstring_view next = text.substr(offset, kPieceLength);
         offset += next.size();
         piece.clear();
-        ioutils::appendUtf8FromWide(piece, next);
+        ioutils::appendUtf8FromWide(piece, next, ioutils::Unencodable::KeepValue);
         xmlParseChunk(ctxt, piece.data(), static_cast<int>(piece.size()),
                       offset == text.size() ? 1 : 0);
     }

@@ -53,7 +53,8 @@ private:
     void mapBytes(std::size_t end) {
         while (bytes_ < end && characters_ < text_.size()) {
             if (characters_ == nextWide_) {
-                bytes_ += ioutils::utf8Length(text_[characters_++]);
+                bytes_ +=
+                    ioutils::utf8Length(text_[characters_++], ioutils::Unencodable::KeepValue);
                 nextWide_ = nextWideFrom(characters_);
             } else {
                 const std::size_t run = std::min(nextWide_ - characters_, end - bytes_);

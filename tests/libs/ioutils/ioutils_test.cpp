@@ -6,6 +6,7 @@
 #include <fstream>
 #include <limits>
 #include <string>
+#include <tuple>
 
 #include "ioutils/IOUtils.h"
 #include "ioutils/Numbers.h"
@@ -33,8 +34,22 @@ TEST(TextCodec, MalformedInputBecomesReplacementCharacters) {
         {"\xFF!", L"\uFFFD!"},
     };
     for (const auto& [bytes, text] : utf8) EXPECT_EQ(wideFromUtf8(bytes), text) << bytes;
-    for (wchar_t unencodable : {wchar_t(0xD800), wchar_t(0x110000)})
-        EXPECT_EQ(utf8FromWide(std::wstring(1, unencodable)), "\xEF\xBF\xBD");
+}
+
+TEST(TextCodec, UnencodableValuesAreReplacedOrKeptAsTheirOwnBytes) {
+    const std::tuple<wchar_t, std::string> kept[] = {
+        {wchar_t(0xD800), "\xED\xA0\x80"},
+        {wchar_t(0x110000), "\xF4\x90\x80\x80"},
+        {wchar_t(-1), "\xF7\xBF\xBF\xBF"},  // beyond four bytes: the largest they hold
+    };
+    for (const auto& [value, bytes] : kept) {
+        const std::wstring text(1, value);
+        EXPECT_EQ(utf8FromWide(text), "\xEF\xBF\xBD");
+        std::string out;
+        appendUtf8FromWide(out, text, Unencodable::KeepValue);
+        EXPECT_EQ(out, bytes);
+        EXPECT_EQ(utf8Length(value, Unencodable::KeepValue), bytes.size());
+    }
 }
 
 TEST(TextCodec, Utf16InBothByteOrdersJoinsSurrogatePairs) {

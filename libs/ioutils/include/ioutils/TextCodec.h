@@ -13,14 +13,19 @@ namespace ioutils {
 // Malformed input never fails: each bad sequence or unencodable value
 // becomes U+FFFD.
 IOUTILS_API std::string utf8FromWide(std::wstring_view text);
+// What becomes of a surrogate or a value beyond U+10FFFF in UTF-8: U+FFFD,
+// or the bytes of its own value (beyond 0x1FFFFF, of 0x1FFFFF), which a
+// strict reader refuses where it stands.
+enum class Unencodable { Replace, KeepValue };
 // The same appended to `out`.
-IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text);
-// The number of UTF-8 bytes utf8FromWide writes for `c`.
-// (U+FFFD, which replaces what cannot be encoded, takes three.) Free of
+IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text,
+                                    Unencodable unencodable = Unencodable::Replace);
+// The number of UTF-8 bytes appendUtf8FromWide writes for `c`. Free of
 // branches, so that loops summing it vectorize.
-inline std::size_t utf8Length(wchar_t c) {
+inline std::size_t utf8Length(wchar_t c, Unencodable unencodable = Unencodable::Replace) {
     const auto code = static_cast<char32_t>(c);
-    return 1 + (code >= 0x80) + (code >= 0x800) + (code >= 0x10000 && code <= 0x10FFFF);
+    return 1 + (code >= 0x80) + (code >= 0x800) +
+           (code >= 0x10000 && (code <= 0x10FFFF || unencodable == Unencodable::KeepValue));
 }
 // The units the ASCII fast paths test at once.
 inline constexpr std::size_t kAsciiBlock = 16;
