@@ -45,6 +45,11 @@ struct LoadState {
         }
     }
 
+    void refuse(ErrorReport refusal) {
+        failed = true;
+        failure = std::move(refusal);
+    }
+
     void refuse(xmlParserCtxtPtr ctxt, long code) noexcept {
         if (begin(code, detail::currentLine(ctxt), detail::currentColumn(ctxt))) {
             try {
@@ -134,7 +139,8 @@ std::shared_ptr<const detail::DocumentTree> load(std::wstring_view text, LoadSta
         detail::openPushParser(treeBuilder(), nullptr));
     if (!ctxt) throw std::bad_alloc();
     ctxt->_private = &state;
-    detail::feedPushParser(ctxt.get(), text, state.failed);
+    if (auto refusal = detail::feedPushParser(ctxt.get(), text, state.failed))
+        state.refuse(std::move(*refusal));
     xmlDocPtr doc = std::exchange(ctxt->myDoc, nullptr);
     if (doc != nullptr && !state.failed && ctxt->wellFormed) {
         auto tree = detail::adopt(doc);

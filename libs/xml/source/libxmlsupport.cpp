@@ -6,6 +6,7 @@
 #include <mutex>
 
 #include "ioutils/TextCodec.h"
+#include "kazxml/SAX.h"
 
 namespace kaz::xml::detail {
 
@@ -36,20 +37,154 @@ bool resetPushParser(xmlParserCtxtPtr ctxt) {
     return true;
 }
 
-void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop) {
+namespace {
+
+// The first of `a`, `b` and `c` at or after `from`, or the text's size.
+// Whole blocks are tested at once, branch-free, so that it is vector code.
+std::size_t findAny(std::wstring_view text, std::size_t from, wchar_t a, wchar_t b, wchar_t c) {
+    constexpr std::size_t kBlock = ioutils::kAsciiBlock;
+    for (; from + kBlock <= text.size(); from += kBlock) {
+        int found = 0;
+        for (std::size_t i = 0; i < kBlock; ++i) {
+            const wchar_t unit = text[from + i];
+            found |= int{unit == a} | int{unit == b} | int{unit == c};
+        }
+        if (found != 0) break;
+    }
+    while (from < text.size() && text[from] != a && text[from] != b && text[from] != c) ++from;
+    return from;
+}
+
+// Finds start tags with more attributes than the reader allows, before
+// libxml2 sees them: it checks each attribute against all before it, so
+// that its time grows with the square of their number.
+//
+// Each attribute has a quoted value, and libxml2 ends a start tag at the
+// first "<" in it. So only a run between two "<" holding more than two
+// quotes per allowed attribute can be such a tag; the guard counts quotes
+// in runs (vector code) until it meets one. From there on it follows the
+// markup exactly: it counts the quoted values of each start tag, and passes
+// over comments, CDATA sections, processing instructions and end tags.
+class AttributeGuard {
+public:
+    explicit AttributeGuard(std::wstring_view text) : text_(text) {}
+
+    // Where the first such start tag begins before `end`, else nothing.
+    std::optional<std::size_t> crowdedTagBefore(std::size_t end) {
+        if (!exact_) {
+            exact_ = quoteCrowdedRun(end);
+            if (!exact_) return std::nullopt;
+        }
+        while (next_ < end) {
+            const std::size_t open = text_.find(L'<', next_);
+            if (open == text_.npos || open >= end) {
+                next_ = std::min(open, text_.size());
+                break;
+            }
+            const std::wstring_view markup = text_.substr(open);
+            if (markup.starts_with(L"<!--")) {
+                next_ = past(L"-->", open + 4);
+            } else if (markup.starts_with(L"<![CDATA[")) {
+                next_ = past(L"]]>", open + 9);
+            } else if (markup.starts_with(L"<?")) {
+                next_ = past(L"?>", open + 2);
+            } else if (markup.starts_with(L"</") || markup.starts_with(L"<!")) {
+                next_ = past(L">", open + 2);
+            } else if (!startTagAllowed(open)) {
+                return open;
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    static constexpr std::size_t kBlock = ioutils::kAsciiBlock;
+    static constexpr std::size_t kMostQuotes = 2 * SAXXMLReader::kMaxAttributes;
+
+    // Whether the runs between "<" up to `end` may hold too many quotes.
+    // Blocks are counted whole, branch-free: a block holding a "<" adds
+    // all its quotes both to the run it ends and to the one it begins,
+    // which overstates each by less than a block.
+    bool quoteCrowdedRun(std::size_t end) {
+        while (screened_ < end) {
+            const bool whole = screened_ + kBlock <= end;
+            const Counts counts = whole ? countIn<kBlock>(text_.data() + screened_)
+                                        : countIn<1>(text_.data() + screened_);
+            screened_ += whole ? kBlock : 1;
+            if (quotesInRun_ + counts.quotes > kMostQuotes) return true;
+            quotesInRun_ = counts.opens != 0 ? counts.quotes : quotesInRun_ + counts.quotes;
+        }
+        return false;
+    }
+
+    struct Counts {
+        int opens = 0;
+        std::size_t quotes = 0;
+    };
+    template <std::size_t N>
+    static Counts countIn(const wchar_t* units) {
+        Counts counts;
+        for (std::size_t i = 0; i < N; ++i) {
+            counts.opens |= int{units[i] == L'<'};
+            counts.quotes += std::size_t{units[i] == L'"'} + std::size_t{units[i] == L'\''};
+        }
+        return counts;
+    }
+
+    std::size_t past(std::wstring_view terminator, std::size_t from) const {
+        const std::size_t at = text_.find(terminator, from);
+        return at == text_.npos ? text_.size() : at + terminator.size();
+    }
+
+    // Counts the quoted values of the start tag at `open`, moving past it.
+    bool startTagAllowed(std::size_t open) {
+        int values = 0;
+        std::size_t at = open + 1;
+        while ((at = findAny(text_, at, L'>', L'"', L'\'')) < text_.size() && text_[at] != L'>') {
+            if (++values > SAXXMLReader::kMaxAttributes) return false;
+            at = text_.find(text_[at], at + 1);
+            if (at == text_.npos) break;
+            ++at;
+        }
+        next_ = std::min(at, text_.size() - 1) + 1;
+        return true;
+    }
+
+    std::wstring_view text_;
+    std::size_t screened_ = 0;     // how far the quotes are counted
+    std::size_t quotesInRun_ = 0;  // since the last "<"
+    bool exact_ = false;           // whether the markup is followed
+    std::size_t next_ = 0;         // where the text outside markup goes on
+};
+
+}  // namespace
+
+std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text,
+                                          const bool& stop) {
     // Converted a piece at a time, so that no UTF-8 copy of the whole text
     // is ever made. A value no UTF-8 may hold goes in as the bytes of its
     // own value, for libxml2 to refuse where it stands.
     constexpr std::size_t kPieceLength = 16 * 1024;
+    AttributeGuard guard(text);
     std::string piece;
     for (std::size_t offset = 0; offset < text.size() && !stop;) {
-        const std::wstring_view next = text.substr(offset, kPieceLength);
+        std::wstring_view next = text.substr(offset, kPieceLength);
+        const std::optional<std::size_t> crowded = guard.crowdedTagBefore(offset + next.size());
+        if (crowded) next = next.substr(0, *crowded - offset);
         offset += next.size();
         piece.clear();
         ioutils::appendUtf8FromWide(piece, next, ioutils::Unencodable::KeepValue);
         xmlParseChunk(ctxt, piece.data(), static_cast<int>(piece.size()),
                       offset == text.size() ? 1 : 0);
+        if (crowded) {
+            if (stop) break;
+            const std::size_t line = 1 + lineBreaks(text, 0, offset);
+            return ErrorReport{XML_E_TOO_MANY_ATTRIBUTES, static_cast<int>(line),
+                               static_cast<int>(1 + offset - lineStart(text, offset)),
+                               kTooManyAttributes};
+        }
     }
+    return std::nullopt;
 }
 
 std::wstring_view textForParser(const std::wstring& text) {
@@ -134,6 +269,19 @@ ErrorReport emptyDocument() {
 std::wstring describe(const ErrorReport& report) {
     return L"line " + std::to_wstring(report.line) + L", column " + std::to_wstring(report.column) +
            L": " + report.message;
+}
+
+std::size_t lineBreaks(std::wstring_view text, std::size_t from, std::size_t to) {
+    std::size_t count = 0;
+    for (std::size_t i = from; i < to; ++i)
+        count += static_cast<std::size_t>(int{text[i] == L'\n'} |
+                                          (int{text[i] == L'\r'} & int{text[i + 1] != L'\n'}));
+    return count;
+}
+
+std::size_t lineStart(std::wstring_view text, std::size_t at) {
+    while (at > 0 && text[at - 1] != L'\n' && text[at - 1] != L'\r') --at;
+    return at;
 }
 
 int currentLine(const xmlParserCtxt* ctxt) {

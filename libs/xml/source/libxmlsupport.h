@@ -3,6 +3,7 @@
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,7 @@ constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC;
 
 constexpr wchar_t kDoctypeRefused[] = L"document type declarations are not allowed";
 constexpr wchar_t kTooDeep[] = L"elements nested deeper than 256 levels";
+constexpr wchar_t kTooManyAttributes[] = L"elements with more than 1000 attributes";
 
 // Initializes libxml2 once per process, before the first parse.
 void ensureParserInitialized();
@@ -28,9 +30,6 @@ xmlParserCtxtPtr openPushParser(xmlSAXHandler sax, void* userData);
 // Makes a context whose last parse ended ready for a new text, keeping its
 // handler, user data and dictionary; false when out of memory.
 bool resetPushParser(xmlParserCtxtPtr ctxt);
-// Feeds the text as UTF-8 in pieces of at most 64 KiB, the last one ending
-// the document; stops early once `stop` turns true.
-void feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text, const bool& stop);
 
 // The text the parser reads: without a leading byte order mark (which
 // libxml2 would take for content once told the text is UTF-8).
@@ -62,6 +61,13 @@ struct ErrorReport {
     std::wstring message;
 };
 
+// Feeds the text as UTF-8 in pieces, the last one ending the document;
+// stops early once `stop` turns true. A start tag with more attributes than
+// the reader allows is never fed: the text before it is, and its refusal
+// is the answer.
+std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_view text,
+                                          const bool& stop);
+
 // How severe a libxml2 report is for us. A namespace-aware reader refuses
 // what libxml2 only calls an error of the namespace rules (an undeclared
 // prefix, a rebound "xml" prefix, ...), and reads XML 1.0 only, where
@@ -76,6 +82,12 @@ ErrorReport refusalAt(const xmlParserCtxt* ctxt, long code);
 ErrorReport emptyDocument();
 // "line 3, column 7: <message>"
 std::wstring describe(const ErrorReport& report);
+
+// The line breaks in [from, to), "\r\n" counted once at its "\n".
+// Branch-free so that it becomes vector code; text[to] must exist.
+std::size_t lineBreaks(std::wstring_view text, std::size_t from, std::size_t to);
+// Where the line holding `at` begins.
+std::size_t lineStart(std::wstring_view text, std::size_t at);
 
 int currentLine(const xmlParserCtxt* ctxt);
 int currentColumn(const xmlParserCtxt* ctxt);

@@ -77,30 +77,14 @@ private:
     // Moves line and column on to `target`, where the text holds a "<".
     void advanceTo(std::size_t target) {
         if (target < offset_) return;
-        const std::size_t breaks = lineBreaks(offset_, target);
+        const std::size_t breaks = detail::lineBreaks(text_, offset_, target);
         if (breaks == 0) {
             column_ += static_cast<int>(target - offset_);
         } else {
             line_ += static_cast<int>(breaks);
-            column_ = 1 + static_cast<int>(target - lineStart(target));
+            column_ = 1 + static_cast<int>(target - detail::lineStart(text_, target));
         }
         offset_ = target;
-    }
-
-    // The line breaks in [from, to), "\r\n" counted once at its "\n".
-    // Branch-free so that it becomes vector code; text_[to] exists.
-    std::size_t lineBreaks(std::size_t from, std::size_t to) const {
-        std::size_t count = 0;
-        for (std::size_t i = from; i < to; ++i)
-            count += static_cast<std::size_t>(
-                int{text_[i] == L'\n'} | (int{text_[i] == L'\r'} & int{text_[i + 1] != L'\n'}));
-        return count;
-    }
-
-    // Where the line holding `at` begins.
-    std::size_t lineStart(std::size_t at) const {
-        while (at > 0 && text_[at - 1] != L'\n' && text_[at - 1] != L'\r') --at;
-        return at;
     }
 
     std::wstring_view text_;
@@ -273,7 +257,8 @@ long ParseSession::run() {
         // libxml2 calls an empty text "extra content"; say what it is.
         if (!ended_) report(detail::emptyDocument(), XML_ERR_FATAL);
     } else {
-        detail::feedPushParser(ctxt_, text_, ended_);
+        if (auto refusal = detail::feedPushParser(ctxt_, text_, ended_))
+            report(*refusal, XML_ERR_FATAL);
     }
     finish();
     return result_;

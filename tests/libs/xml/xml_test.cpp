@@ -22,6 +22,13 @@ using Type = Node::Type;
 
 namespace {
 
+// A start tag with `count` attributes of the quoted value `value`.
+std::wstring crowded(int count, const std::wstring& value = L"'v'") {
+    std::wstring text = L"<a";
+    for (int i = 0; i < count; ++i) text += L" a" + std::to_wstring(i) + L"=" + value;
+    return text + L"/>";
+}
+
 std::wstring nested(int levels) {
     std::wstring text;
     for (int i = 0; i < levels; ++i) text += L"<e>";
@@ -258,6 +265,7 @@ TEST_F(SAXReaderTest, NamespaceDeclarationsComeFirstAsAttributes) {
 TEST_F(SAXReaderTest, RefusedTextGivesOneFatalErrorAndAnEmptyDocument) {
     const std::wstring dtd = L"document type declarations are not allowed";
     const std::wstring deep = L"elements nested deeper than 256 levels";
+    const std::wstring crowd = L"elements with more than 1000 attributes";
     const struct {
         std::wstring text;
         long code;  // 0: any parse error, and then no message or event count
@@ -274,6 +282,9 @@ TEST_F(SAXReaderTest, RefusedTextGivesOneFatalErrorAndAnEmptyDocument) {
          XML_E_DTD_PROHIBITED, 2, 0, dtd, 1},
         {nested(257), XML_E_TOO_DEEP, 1, 257 * 3, deep, 257},
         {nested(10000), XML_E_TOO_DEEP, 1, 257 * 3, deep, 257},
+        {L"<r>\r\n <!-- \"'> -->" + crowded(1001) + L"</r>", XML_E_TOO_MANY_ATTRIBUTES, 2, 14,
+         crowd, 3},
+        {crowded(100000, L"\">\""), XML_E_TOO_MANY_ATTRIBUTES, 1, 1, crowd, 0},
         {L"<a>\n<b>\n</c></a>", 0, 3, 0, L"", 0},
         {L"<a>", 0, 1, 0, L"", 0},
         {L"", 0, 1, 0, L"", 0},
@@ -425,6 +436,11 @@ TEST_F(SAXReaderTest, WorksWithoutHandlers) {
     EXPECT_EQ(bare.parse(nested(300)), XML_E_TOO_DEEP);
     EXPECT_NE(bare.getErrorDescription(), L"");
     EXPECT_TRUE(parseCode(bare.parse(L"<a>")));
+    // Quotes outside start tags are no attributes.
+    const std::wstring quotes(2002, L'"');
+    EXPECT_EQ(bare.parse(L"<r><!--" + quotes + L"--><![CDATA[" + quotes + L"]]><?p " + quotes +
+                         L"?>" + quotes + crowded(1000) + L"</r>"),
+              S_OK);
 }
 
 TEST(DocumentTest, LoadsANavigableTreeWhoseMarkupLoadsBack) {
