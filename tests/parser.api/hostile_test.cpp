@@ -21,10 +21,12 @@ std::wstring nested(std::size_t depth) {
     return repeated(L"<a>", depth) + repeated(L"</a>", depth);
 }
 
-std::wstring attributes(std::size_t count) {
+// A start tag `<ExtParams` with `count` attributes `name`0, `name`1, ...
+std::wstring attributes(std::size_t count, const std::wstring& name = L"a",
+                        const std::wstring& end = L"/>") {
     std::wstring text = L"<ExtParams";
-    for (std::size_t i = 0; i < count; ++i) text += L" a" + std::to_wstring(i) + L"=\"v\"";
-    return text + L"/>";
+    for (std::size_t i = 0; i < count; ++i) text += L" " + name + std::to_wstring(i) + L"=\"v\"";
+    return text + end;
 }
 
 // The value after `label` in the reader's error as shown.
@@ -106,6 +108,12 @@ INSTANTIATE_TEST_SUITE_P(
                 L"null at 1:1: internal error: Huge input lookup"},
         Hostile{"HundredThousandAttributes", [] { return attributes(100000); },
                 L"null at 1:1: elements with more than 1000 attributes"},
+        Hostile{"HundredThousandNamespacesInScope",
+                [] {
+                    return attributes(1000, L"xmlns:p", L">") + attributes(1000, L"xmlns:q", L">") +
+                           repeated(L"<a/>", 100000);
+                },
+                L"null at 1:29802: more than 1000 namespace declarations in scope"},
         Hostile{"HundredThousandMacros",
                 [] {
                     return L"<PresentationGroup name=\"" +

@@ -69,8 +69,9 @@ void onStartElement(void* ctx, const xmlChar* localName, const xmlChar* prefix, 
                     int namespaceCount, const xmlChar** namespaces, int attributeCount,
                     int defaultedCount, const xmlChar** attributes) {
     LoadState& state = LoadState::of(ctx);
-    if (++state.depth > SAXXMLReader::kMaxDepth)
-        return state.refuse(static_cast<xmlParserCtxtPtr>(ctx), XML_E_TOO_DEEP);
+    const auto ctxt = static_cast<xmlParserCtxtPtr>(ctx);
+    if (const long refusal = detail::startTagRefusal(ctxt, ++state.depth); refusal != S_OK)
+        return state.refuse(ctxt, refusal);
     xmlSAX2StartElementNs(ctx, localName, prefix, uri, namespaceCount, namespaces, attributeCount,
                           defaultedCount, attributes);
 }

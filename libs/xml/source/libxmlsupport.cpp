@@ -258,8 +258,17 @@ ErrorReport reportFrom(const xmlError& error) {
 }
 
 ErrorReport refusalAt(const xmlParserCtxt* ctxt, long code) {
-    return {code, currentLine(ctxt), currentColumn(ctxt),
-            code == XML_E_DTD_PROHIBITED ? kDoctypeRefused : kTooDeep};
+    const wchar_t* message = code == XML_E_DTD_PROHIBITED ? kDoctypeRefused
+                             : code == XML_E_TOO_DEEP     ? kTooDeep
+                                                          : kTooManyNamespaces;
+    return {code, currentLine(ctxt), currentColumn(ctxt), message};
+}
+
+long startTagRefusal(const xmlParserCtxt* ctxt, int depth) {
+    if (depth > SAXXMLReader::kMaxDepth) return XML_E_TOO_DEEP;
+    // libxml2 keeps a prefix and a name per declaration in scope.
+    if (ctxt->nsNr / 2 > SAXXMLReader::kMaxNamespaces) return XML_E_TOO_MANY_NAMESPACES;
+    return S_OK;
 }
 
 ErrorReport emptyDocument() {

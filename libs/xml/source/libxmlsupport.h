@@ -19,6 +19,7 @@ constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC;
 constexpr wchar_t kDoctypeRefused[] = L"document type declarations are not allowed";
 constexpr wchar_t kTooDeep[] = L"elements nested deeper than 256 levels";
 constexpr wchar_t kTooManyAttributes[] = L"elements with more than 1000 attributes";
+constexpr wchar_t kTooManyNamespaces[] = L"more than 1000 namespace declarations in scope";
 
 // Initializes libxml2 once per process, before the first parse.
 void ensureParserInitialized();
@@ -78,6 +79,8 @@ xmlErrorLevel severity(const xmlError& error);
 ErrorReport reportFrom(const xmlError& error);
 // One of our own refusals, at the parser's current position.
 ErrorReport refusalAt(const xmlParserCtxt* ctxt, long code);
+// The refusal of the start tag just read, `depth` levels down, or S_OK.
+long startTagRefusal(const xmlParserCtxt* ctxt, int depth);
 // The report of a text holding no element at all.
 ErrorReport emptyDocument();
 // "line 3, column 7: <message>"

@@ -342,7 +342,8 @@ void ParseSession::fail(long code, std::wstring_view description) noexcept {
 void ParseSession::startElement(const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                                 int namespaceCount, const xmlChar** namespaces, int attributeCount,
                                 const xmlChar** attributes) {
-    if (++depth_ > SAXXMLReader::kMaxDepth) return refuse(XML_E_TOO_DEEP);
+    if (const long refusal = detail::startTagRefusal(ctxt_, ++depth_); refusal != S_OK)
+        return refuse(refusal);
     if (content_ == nullptr) return;
     mapPrefixes(namespaceCount, namespaces);
     attributes_.assign(parser_->names, namespaceCount, namespaces, attributeCount, attributes);

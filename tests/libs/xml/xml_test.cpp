@@ -22,11 +22,13 @@ using Type = Node::Type;
 
 namespace {
 
-// A start tag with `count` attributes of the quoted value `value`.
-std::wstring crowded(int count, const std::wstring& value = L"'v'") {
+// A start tag `<a` with `count` attributes named `name` and a number, of
+// the quoted value `value`, ending in `end`.
+std::wstring crowded(int count, const std::wstring& value = L"'v'", const std::wstring& name = L"a",
+                     const std::wstring& end = L"/>") {
     std::wstring text = L"<a";
-    for (int i = 0; i < count; ++i) text += L" a" + std::to_wstring(i) + L"=" + value;
-    return text + L"/>";
+    for (int i = 0; i < count; ++i) text += L" " + name + std::to_wstring(i) + L"=" + value;
+    return text + end;
 }
 
 std::wstring nested(int levels) {
@@ -266,6 +268,7 @@ TEST_F(SAXReaderTest, RefusedTextGivesOneFatalErrorAndAnEmptyDocument) {
     const std::wstring dtd = L"document type declarations are not allowed";
     const std::wstring deep = L"elements nested deeper than 256 levels";
     const std::wstring crowd = L"elements with more than 1000 attributes";
+    const std::wstring namespaces = L"more than 1000 namespace declarations in scope";
     const struct {
         std::wstring text;
         long code;  // 0: any parse error, and then no message or event count
@@ -285,6 +288,8 @@ TEST_F(SAXReaderTest, RefusedTextGivesOneFatalErrorAndAnEmptyDocument) {
         {L"<r>\r\n <!-- \"'> -->" + crowded(1001) + L"</r>", XML_E_TOO_MANY_ATTRIBUTES, 2, 14,
          crowd, 3},
         {crowded(100000, L"\">\""), XML_E_TOO_MANY_ATTRIBUTES, 1, 1, crowd, 0},
+        {crowded(600, L"'u'", L"xmlns:p", L">") + crowded(401, L"'u'", L"xmlns:q") + L"</a>",
+         XML_E_TOO_MANY_NAMESPACES, 1, 0, namespaces, 602},
         {L"<a>\n<b>\n</c></a>", 0, 3, 0, L"", 0},
         {L"<a>", 0, 1, 0, L"", 0},
         {L"", 0, 1, 0, L"", 0},

@@ -14,10 +14,11 @@ constexpr long E_UNEXPECTED = static_cast<int>(0x8000FFFFu);
 // A parse error: this base plus the XML engine's own error number.
 constexpr long XML_E_PARSE_BASE = static_cast<int>(0xC00CE000u);
 // The reader's own refusals (document type declaration, nesting depth,
-// attributes of one element).
+// attributes of one element, namespace declarations in scope).
 constexpr long XML_E_DTD_PROHIBITED = static_cast<int>(0xC00CEF01u);
 constexpr long XML_E_TOO_DEEP = static_cast<int>(0xC00CEF02u);
 constexpr long XML_E_TOO_MANY_ATTRIBUTES = static_cast<int>(0xC00CEF03u);
+constexpr long XML_E_TOO_MANY_NAMESPACES = static_cast<int>(0xC00CEF04u);
 
 constexpr bool succeeded(long result) {
     return result >= 0;

@@ -117,12 +117,15 @@ public:
 
 // The reader over the XML engine. Secure by default: a document type
 // declaration is refused as a fatal error, nothing external is ever loaded,
-// and elements nested deeper than 256 levels or with more than 1000
-// attributes are refused.
+// and elements nested deeper than 256 levels, with more than 1000
+// attributes, or with more than 1000 namespace declarations in scope are
+// refused: libxml2 spends time on each attribute and each element in
+// proportion to these counts.
 class KAZXML_API SAXXMLReader final : public ISAXXMLReader {
 public:
     static constexpr int kMaxDepth = 256;
     static constexpr int kMaxAttributes = 1000;
+    static constexpr int kMaxNamespaces = 1000;
 
     SAXXMLReader();
     ~SAXXMLReader() override;
