@@ -18,8 +18,8 @@ long XParserContentHandlerImpl::startElement(const wchar_t*, int, const wchar_t*
     const ElementStart element{name, attributes, startTagLocation()};
     std::unique_ptr<XNodeCfgImpl> node(new XNodeCfgImpl(element, nextParent()));
     node->locate(element.where);
-    push(node.get(), node.get());
-    node.release();
+    XNodeCfgImpl* opened = node.release();  // the stack owns it, even when it cannot grow
+    push(opened, opened);
     return kaz::xml::S_OK;
 }
 

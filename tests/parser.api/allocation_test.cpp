@@ -97,15 +97,17 @@ public:
     std::wstring text;
 };
 
-// Builds `text`, copies the tree, writes both and resolves the copy's file
-// references; answers all it saw, in one string.
+// Builds `text` as typed and as generic nodes, copies the typed tree,
+// writes all three and resolves the copy's file references; answers all it
+// saw, in one string.
 std::wstring buildCopyWriteResolve(const std::wstring& text) {
     NodePtr<> tree(KAZConfigFactory::createNodeCfg(&text, nullptr));
     if (tree == nullptr) return L"(null)";
     NodePtr<> copy(tree->clone());
     PiecesWriter written;
     tree->writeXml(written);
-    std::wstring seen = written.text + L'\n' + copy->toXml();
+    NodePtr<> generic(KAZConfigFactory::createXNodeCfg(&text, nullptr));
+    std::wstring seen = written.text + L'\n' + copy->toXml() + L'\n' + generic->toXml();
     if (auto* group = dynamic_cast<IPresentationGroupCfg*>(copy.get())) {
         const unsigned int resolved = group->getPresentationElements()->resolveReferences();
         seen += L'\n' + std::to_wstring(resolved) + L'\n' + copy->toXml();
