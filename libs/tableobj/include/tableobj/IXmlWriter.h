@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,9 +29,18 @@ public:
         target_ += piece;
         return true;
     }
-    std::wstring* buffer() override { return &target_; }
+    // A large text grows fourfold when little room is left: it is then
+    // copied and first touched about half as much as when doubling. (Room
+    // not yet written to takes no memory.)
+    std::wstring* buffer() override {
+        if (target_.capacity() >= kLarge && target_.capacity() - target_.size() < kLeastRoom)
+            target_.reserve(4 * target_.capacity());
+        return &target_;
+    }
 
 private:
+    static constexpr std::size_t kLarge = 64 * 1024;
+    static constexpr std::size_t kLeastRoom = 4096;
     std::wstring& target_;
 };
 
