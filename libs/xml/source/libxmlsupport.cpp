@@ -61,8 +61,8 @@ std::size_t findAny(std::wstring_view text, std::size_t from, wchar_t a, wchar_t
 //
 // Each attribute has a quoted value, and libxml2 ends a start tag at the
 // first "<" in it. So only a run between two "<" holding more than two
-// quotes per allowed attribute can be such a tag; the guard counts quotes
-// in runs (vector code) until it meets one. From there on it follows the
+// quotes per allowed attribute can be such a tag; the guard screens runs
+// block by block until it meets one. From there on it follows the
 // markup exactly: it counts the quoted values of each start tag, and passes
 // over comments, CDATA sections, processing instructions and end tags.
 class AttributeGuard {
@@ -98,37 +98,39 @@ public:
     }
 
 private:
-    static constexpr std::size_t kBlock = ioutils::kAsciiBlock;
     static constexpr std::size_t kMostQuotes = 2 * SAXXMLReader::kMaxAttributes;
+    // A block holds no more quotes than half of kMostQuotes, so a run that
+    // held no more than the other half before it cannot pass the limit in it.
+    static constexpr std::size_t kScreenBlock = kMostQuotes / 2;
 
     // Whether the runs between "<" up to `end` may hold too many quotes.
-    // Blocks are counted whole, branch-free: a block holding a "<" adds
-    // all its quotes both to the run it ends and to the one it begins,
-    // which overstates each by less than a block.
+    // Most blocks need only a look back to their last "<" (the quotes
+    // after it begin the next run); the rest are counted whole.
     bool quoteCrowdedRun(std::size_t end) {
         while (screened_ < end) {
-            const bool whole = screened_ + kBlock <= end;
-            const Counts counts = whole ? countIn<kBlock>(text_.data() + screened_)
-                                        : countIn<1>(text_.data() + screened_);
-            screened_ += whole ? kBlock : 1;
-            if (quotesInRun_ + counts.quotes > kMostQuotes) return true;
-            quotesInRun_ = counts.opens != 0 ? counts.quotes : quotesInRun_ + counts.quotes;
+            const std::wstring_view block =
+                text_.substr(screened_, std::min(kScreenBlock, end - screened_));
+            screened_ += block.size();
+            const std::size_t lastOpen = block.rfind(L'<');
+            if (lastOpen == block.npos || quotesInRun_ > kMostQuotes - kScreenBlock) {
+                const std::size_t quotes = quotesIn(block);
+                if (quotesInRun_ + quotes > kMostQuotes) return true;
+                if (lastOpen == block.npos) {
+                    quotesInRun_ += quotes;
+                    continue;
+                }
+            }
+            quotesInRun_ = quotesIn(block.substr(lastOpen));
         }
         return false;
     }
 
-    struct Counts {
-        int opens = 0;
+    // A plain count, which the compiler makes vector code.
+    static std::size_t quotesIn(std::wstring_view units) {
         std::size_t quotes = 0;
-    };
-    template <std::size_t N>
-    static Counts countIn(const wchar_t* units) {
-        Counts counts;
-        for (std::size_t i = 0; i < N; ++i) {
-            counts.opens |= int{units[i] == L'<'};
-            counts.quotes += std::size_t{units[i] == L'"'} + std::size_t{units[i] == L'\''};
-        }
-        return counts;
+        for (const wchar_t unit : units)
+            quotes += std::size_t{unit == L'"'} + std::size_t{unit == L'\''};
+        return quotes;
     }
 
     std::size_t past(std::wstring_view terminator, std::size_t from) const {
