@@ -107,15 +107,19 @@ void appendUtf8FromWide(std::string& out, std::wstring_view text, Unencodable un
                                    : utf8LengthOf<Unencodable::KeepValue>(text);
     const std::size_t start = out.size();
     out.resize(start + length);
-    char* at = out.data() + start;
+    encodeUtf8(out.data() + start, text, unencodable);
+}
+
+char* encodeUtf8(char* out, std::wstring_view text, Unencodable unencodable) {
     for (std::size_t pos = 0; pos < text.size();) {
         if (pos + kAsciiBlock <= text.size() && asciiBlock(text.data() + pos)) {
-            at = copyBlock(at, text.data() + pos);
+            out = copyBlock(out, text.data() + pos);
             pos += kAsciiBlock;
         } else {
-            at = putUtf8(at, static_cast<char32_t>(text[pos++]), unencodable);
+            out = putUtf8(out, static_cast<char32_t>(text[pos++]), unencodable);
         }
     }
+    return out;
 }
 
 std::wstring wideFromUtf8(std::string_view text) {

@@ -168,15 +168,15 @@ std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_vi
     // own value, for libxml2 to refuse where it stands.
     constexpr std::size_t kPieceLength = 16 * 1024;
     AttributeGuard guard(text);
-    std::string piece;
+    // Room for the longest piece, made once: each piece is encoded into it.
+    std::string piece(ioutils::kMaxUtf8Length * std::min(kPieceLength, text.size()), '\0');
     for (std::size_t offset = 0; offset < text.size() && !stop;) {
         std::wstring_view next = text.substr(offset, kPieceLength);
         const std::optional<std::size_t> crowded = guard.crowdedTagBefore(offset + next.size());
         if (crowded) next = next.substr(0, *crowded - offset);
         offset += next.size();
-        piece.clear();
-        ioutils::appendUtf8FromWide(piece, next, ioutils::Unencodable::KeepValue);
-        xmlParseChunk(ctxt, piece.data(), static_cast<int>(piece.size()),
+        const char* end = ioutils::encodeUtf8(piece.data(), next, ioutils::Unencodable::KeepValue);
+        xmlParseChunk(ctxt, piece.data(), static_cast<int>(end - piece.data()),
                       offset == text.size() ? 1 : 0);
         if (crowded) {
             if (stop) break;

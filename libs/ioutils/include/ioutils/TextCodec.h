@@ -20,6 +20,11 @@ enum class Unencodable { Replace, KeepValue };
 // The same appended to `out`.
 IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text,
                                     Unencodable unencodable = Unencodable::Replace);
+// The same written from `out` on, which has room for 4 bytes a character
+// (kMaxUtf8Length); answers the end of what it wrote.
+IOUTILS_API char* encodeUtf8(char* out, std::wstring_view text,
+                             Unencodable unencodable = Unencodable::Replace);
+inline constexpr std::size_t kMaxUtf8Length = 4;
 // The number of UTF-8 bytes appendUtf8FromWide writes for `c`. Free of
 // branches, so that loops summing it vectorize.
 inline std::size_t utf8Length(wchar_t c, Unencodable unencodable = Unencodable::Replace) {
