@@ -173,17 +173,20 @@ std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_vi
     for (std::size_t offset = 0; offset < text.size() && !stop;) {
         std::wstring_view next = text.substr(offset, kPieceLength);
         const std::optional<std::size_t> crowded = guard.crowdedTagBefore(offset + next.size());
-        if (crowded) next = next.substr(0, *crowded - offset);
+        // Up to the crowded tag's "<" (already fed when the tag began in an
+        // earlier piece): libxml2 reads all before it and then waits for
+        // the tag's ">", which it never gets.
+        if (crowded) next = next.substr(0, *crowded < offset ? 0 : *crowded - offset + 1);
         offset += next.size();
         const char* end = ioutils::encodeUtf8(piece.data(), next, ioutils::Unencodable::KeepValue);
         xmlParseChunk(ctxt, piece.data(), static_cast<int>(end - piece.data()),
-                      offset == text.size() ? 1 : 0);
+                      !crowded && offset == text.size() ? 1 : 0);
         if (crowded) {
-            if (stop) break;
-            const std::size_t line = 1 + lineBreaks(text, 0, offset);
+            if (stop) break;  // an error before the tag comes first
+            const std::size_t line = 1 + lineBreaks(text, 0, *crowded);
             return ErrorReport{XML_E_TOO_MANY_ATTRIBUTES, static_cast<int>(line),
-                               static_cast<int>(1 + offset - lineStart(text, offset)),
-                               kTooManyAttributes};
+                               static_cast<int>(1 + *crowded - lineStart(text, *crowded)),
+                               refusalMessage(XML_E_TOO_MANY_ATTRIBUTES)};
         }
     }
     return std::nullopt;
@@ -260,10 +263,7 @@ ErrorReport reportFrom(const xmlError& error) {
 }
 
 ErrorReport refusalAt(const xmlParserCtxt* ctxt, long code) {
-    const wchar_t* message = code == XML_E_DTD_PROHIBITED ? kDoctypeRefused
-                             : code == XML_E_TOO_DEEP     ? kTooDeep
-                                                          : kTooManyNamespaces;
-    return {code, currentLine(ctxt), currentColumn(ctxt), message};
+    return {code, currentLine(ctxt), currentColumn(ctxt), refusalMessage(code)};
 }
 
 long startTagRefusal(const xmlParserCtxt* ctxt, int depth) {

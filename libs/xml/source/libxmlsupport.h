@@ -16,10 +16,21 @@ namespace kaz::xml::detail {
 // Entities are never substituted (no XML_PARSE_NOENT) and no DTD is loaded.
 constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC;
 
-constexpr wchar_t kDoctypeRefused[] = L"document type declarations are not allowed";
-constexpr wchar_t kTooDeep[] = L"elements nested deeper than 256 levels";
-constexpr wchar_t kTooManyAttributes[] = L"elements with more than 1000 attributes";
-constexpr wchar_t kTooManyNamespaces[] = L"more than 1000 namespace declarations in scope";
+// The message of one of the reader's own refusals (an XML_E_ code of Result.h).
+constexpr const wchar_t* refusalMessage(long code) {
+    switch (code) {
+        case XML_E_DTD_PROHIBITED:
+            return L"document type declarations are not allowed";
+        case XML_E_TOO_DEEP:
+            return L"elements nested deeper than 256 levels";
+        case XML_E_TOO_MANY_ATTRIBUTES:
+            return L"elements with more than 1000 attributes";
+        case XML_E_TOO_MANY_NAMESPACES:
+            return L"more than 1000 namespace declarations in scope";
+        default:
+            return L"refused";
+    }
+}
 
 // Initializes libxml2 once per process, before the first parse.
 void ensureParserInitialized();

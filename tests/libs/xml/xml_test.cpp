@@ -288,6 +288,11 @@ TEST_F(SAXReaderTest, RefusedTextGivesOneFatalErrorAndAnEmptyDocument) {
         {L"<r>\r\n <!-- \"'> -->" + crowded(1001) + L"</r>", XML_E_TOO_MANY_ATTRIBUTES, 2, 14,
          crowd, 3},
         {crowded(100000, L"\">\""), XML_E_TOO_MANY_ATTRIBUTES, 1, 1, crowd, 0},
+        // The tag begins in the reader's first piece of 16 K characters and
+        // passes the limit in the next: all before it is read, none of it.
+        {L"<r>" + std::wstring(16000, L'\n') + L"x" + crowded(1001) + L"</r>",
+         XML_E_TOO_MANY_ATTRIBUTES, 16001, 2, crowd, 3},
+        {L"<r>]]>" + crowded(1001) + L"</r>", 0, 1, 4, L"", 0},  // an earlier error wins
         {crowded(600, L"'u'", L"xmlns:p", L">") + crowded(401, L"'u'", L"xmlns:q") + L"</a>",
          XML_E_TOO_MANY_NAMESPACES, 1, 0, namespaces, 602},
         {L"<a>\n<b>\n</c></a>", 0, 3, 0, L"", 0},
