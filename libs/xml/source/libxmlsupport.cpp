@@ -3,6 +3,7 @@
 #include <libxml/parserInternals.h>
 
 #include <algorithm>
+#include <memory>
 #include <mutex>
 
 #include "ioutils/TextCodec.h"
@@ -168,8 +169,10 @@ std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_vi
     // own value, for libxml2 to refuse where it stands.
     constexpr std::size_t kPieceLength = 16 * 1024;
     AttributeGuard guard(text);
-    // Room for the longest piece, made once: each piece is encoded into it.
-    std::string piece(ioutils::kMaxUtf8Length * std::min(kPieceLength, text.size()), '\0');
+    // Room for the longest piece, made once (and left unset): each piece is
+    // encoded into it.
+    const auto piece = std::make_unique_for_overwrite<char[]>(ioutils::kMaxUtf8Length *
+                                                              std::min(kPieceLength, text.size()));
     for (std::size_t offset = 0; offset < text.size() && !stop;) {
         std::wstring_view next = text.substr(offset, kPieceLength);
         const std::optional<std::size_t> crowded = guard.crowdedTagBefore(offset + next.size());
@@ -178,8 +181,8 @@ std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_vi
         // the tag's ">", which it never gets.
         if (crowded) next = next.substr(0, *crowded < offset ? 0 : *crowded - offset + 1);
         offset += next.size();
-        const char* end = ioutils::encodeUtf8(piece.data(), next, ioutils::Unencodable::KeepValue);
-        xmlParseChunk(ctxt, piece.data(), static_cast<int>(end - piece.data()),
+        const char* end = ioutils::encodeUtf8(piece.get(), next, ioutils::Unencodable::KeepValue);
+        xmlParseChunk(ctxt, piece.get(), static_cast<int>(end - piece.get()),
                       !crowded && offset == text.size() ? 1 : 0);
         if (crowded) {
             if (stop) break;  // an error before the tag comes first
