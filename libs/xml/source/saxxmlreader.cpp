@@ -75,15 +75,19 @@ private:
     }
 
     // Moves line and column on to `target`, where the text holds a "<".
+    // Tags stand a few dozen characters apart: one pass over the gap notes
+    // the line breaks ("\r\n" counted once) and where the last line began.
     void advanceTo(std::size_t target) {
         if (target < offset_) return;
-        const std::size_t breaks = detail::lineBreaks(text_, offset_, target);
-        if (breaks == 0) {
-            column_ += static_cast<int>(target - offset_);
-        } else {
-            line_ += static_cast<int>(breaks);
-            column_ = 1 + static_cast<int>(target - detail::lineStart(text_, target));
+        for (std::size_t i = offset_; i < target; ++i) {
+            const wchar_t unit = text_[i];
+            if (unit > L'\r') continue;
+            if (unit == L'\n' || (unit == L'\r' && text_[i + 1] != L'\n')) {
+                ++line_;
+                lineBegin_ = i + 1;
+            }
         }
+        column_ = 1 + static_cast<int>(target - lineBegin_);
         offset_ = target;
     }
 
@@ -92,6 +96,7 @@ private:
     std::size_t bytes_ = 0;       // `bytes_` bytes of UTF-8
     std::size_t nextWide_;        // the next character that is not ASCII
     std::size_t offset_ = 0;      // where line_ and column_ are
+    std::size_t lineBegin_ = 0;   // where line_ begins
     int line_ = 1;
     int column_ = 1;
 };
