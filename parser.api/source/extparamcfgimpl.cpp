@@ -2,6 +2,7 @@
 
 #include "nodekinds.h"
 
+#include "nodecast.h"
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
@@ -25,7 +26,7 @@ bool ExtParamCfgImpl::writeXml(IXmlWriter& out) const {
 }
 
 bool ExtParamCfgImpl::setChild(INodeCfg* child) {
-    auto* data = dynamic_cast<IDataCfg*>(child);
+    auto* data = nodeCast<IDataCfg>(child);
     if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
     setDataChild(data, this);
     return true;

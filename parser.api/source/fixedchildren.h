@@ -7,6 +7,7 @@
 
 #include "childslot.h"
 #include "kazparser/INodeCfg.h"
+#include "nodecast.h"
 #include "nodeerrors.h"
 #include "nodekinds.h"
 
@@ -134,7 +135,7 @@ private:
     template <class S>
     bool take(S& slot, INodeCfg::NodeType type, INodeCfg* child) {
         if (type != S::kType) return false;
-        slot.set(required(dynamic_cast<typename S::Interface*>(child), L"setChild"), this);
+        slot.set(required(nodeCast<typename S::Interface>(child), L"setChild"), this);
         return true;
     }
 

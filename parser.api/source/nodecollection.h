@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "kazparser/INodeCfgCollection.h"
+#include "nodecast.h"
 #include "nodeerrors.h"
 #include "nodeimpl.h"
 #include "ownedlist.h"
@@ -77,7 +78,7 @@ protected:
 
     // The item as the accepted interface, or "Invalid argument" naming `method`.
     Item* castItem(INodeCfg* item, const wchar_t* method) const {
-        Item* typed = dynamic_cast<Item*>(item);
+        Item* typed = nodeCast<Item>(item);
         if (typed == nullptr) errors::invalidArgument(KAZ_HERE(Derived::kClassName, method));
         return typed;
     }

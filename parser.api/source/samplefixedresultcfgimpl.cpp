@@ -1,11 +1,12 @@
 #include "samplefixedresultcfgimpl.h"
 
+#include "nodecast.h"
 #include "nodeerrors.h"
 
 namespace kaz::kazparser {
 
 bool SampleFixedResultCfgImpl::setChild(INodeCfg* child) {
-    auto* data = dynamic_cast<IUseDataCfg*>(child);
+    auto* data = nodeCast<IUseDataCfg>(child);
     if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
     (void)slot<UseData>().replace(data, nullptr);  // the previous node now belongs to the caller
     return true;

@@ -2,6 +2,7 @@
 
 #include "nodekinds.h"
 
+#include "nodecast.h"
 #include "saxattributes.h"
 
 namespace kaz::kazparser {
@@ -28,7 +29,7 @@ bool XValueCfgImpl::writeXml(IXmlWriter& out) const {
 }
 
 bool XValueCfgImpl::setChild(INodeCfg* child) {
-    auto* data = dynamic_cast<IDataCfg*>(child);
+    auto* data = nodeCast<IDataCfg>(child);
     if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
     setDataChild(data, nullptr);
     return true;
