@@ -7,6 +7,7 @@
 #include "kazparser/IUseDataCfg.h"
 #include "kazparser/IUseDataCollectorCfg.h"
 #include "kazparser/IUseDataModifiersCfg.h"
+#include "nodecast.h"
 #include "nodeimpl.h"
 #include "usedatacfgimpl.h"
 #include "xmltags.h"
@@ -90,15 +91,15 @@ public:
     bool setChild(INodeCfg* child) override {
         switch (this->required(child, L"setChild")->getNodeType()) {
             case INodeCfg::UseDataCollector:
-                setUseDataCollector(dynamic_cast<IUseDataCollectorCfg*>(child));
+                setUseDataCollector(nodeCast<IUseDataCollectorCfg>(child));
                 return true;
             case INodeCfg::UseDataModifiers:
-                setUseDataModifiers(dynamic_cast<IUseDataModifiersCfg*>(child));
+                setUseDataModifiers(nodeCast<IUseDataModifiersCfg>(child));
                 return true;
             case INodeCfg::UseData:
                 if (child->getName() != UseDataCfgImpl::elementNameOf(tableobj::IElement::Tables))
                     return false;
-                setUseTables(dynamic_cast<IUseDataCfg*>(child));
+                setUseTables(nodeCast<IUseDataCfg>(child));
                 return true;
             default:
                 return false;

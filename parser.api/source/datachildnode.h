@@ -4,6 +4,7 @@
 
 #include "childslot.h"
 #include "kazparser/IDataCfg.h"
+#include "nodecast.h"
 #include "nodeerrors.h"
 #include "nodeimpl.h"
 #include "saxattributes.h"
@@ -32,7 +33,7 @@ public:
         return data != nullptr ? data->getDataType() : tableobj::IElement::NoValue;
     }
 
-    IDataCfg* getData() const override { return dynamic_cast<IDataCfg*>(child_.get()); }
+    IDataCfg* getData() const override { return nodeCast<IDataCfg>(child_.get()); }
 
     // A child that is not a data node stays where it is.
     IDataCfg* releaseData() override {
@@ -95,7 +96,7 @@ private:
     // A previous child that is not a data node cannot be handed back as
     // one: it is deleted, so that nothing is left without an owner.
     static IDataCfg* handBack(INodeCfg* previous) {
-        auto* data = dynamic_cast<IDataCfg*>(previous);
+        auto* data = nodeCast<IDataCfg>(previous);
         if (data == nullptr) delete previous;
         return data;
     }

@@ -5,6 +5,7 @@
 #include "environmentadapter/IEnvironmentAdapter.h"
 #include "featurecfgimpl.h"
 #include "kazparser/ISampleFixedResultCfg.h"
+#include "nodecast.h"
 #include "nodeerrors.h"
 #include "tablereader.h"
 #include "usedatacfgimpl.h"
@@ -178,8 +179,8 @@ void KAZParserContentHandlerImpl::attachToParent(INodeCfg* child, std::wstring_v
 // its setData frees it.
 bool KAZParserContentHandlerImpl::takeSampleData(INodeCfg* parent, INodeCfg* child) {
     if (parent->getNodeType() != INodeCfg::SampleFixedResult) return false;
-    auto* entry = dynamic_cast<ISampleFixedResultCfg*>(parent);
-    auto* data = dynamic_cast<IUseDataCfg*>(child);
+    auto* entry = nodeCast<ISampleFixedResultCfg>(parent);
+    auto* data = nodeCast<IUseDataCfg>(child);
     if (entry == nullptr || data == nullptr) return false;
     entry->setData(data);
     return true;

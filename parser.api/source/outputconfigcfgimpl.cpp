@@ -3,6 +3,7 @@
 #include "nodekinds.h"
 
 #include "fixedchildren.h"
+#include "nodecast.h"
 #include "xmltags.h"
 
 namespace kaz::kazparser {
@@ -40,10 +41,10 @@ bool OutputConfigCfgImpl::setChild(INodeCfg* child) {
     if (child == nullptr) return false;
     switch (child->getNodeType()) {
         case UsePresenter:
-            appendUsePresenter(dynamic_cast<IUsePresenterCfg*>(child));
+            appendUsePresenter(nodeCast<IUsePresenterCfg>(child));
             return true;
         case UseDataModifiers:
-            setUseDataModifiers(dynamic_cast<IUseDataModifiersCfg*>(child));
+            setUseDataModifiers(nodeCast<IUseDataModifiersCfg>(child));
             return true;
         default:
             return false;

@@ -6,6 +6,7 @@
 #include "fixedchildren.h"
 #include "kazparser/IParamSetsCfg.h"
 #include "kazxml/SAX.h"
+#include "nodecast.h"
 #include "nodeimpl.h"
 #include "nodekinds.h"
 #include "saxattributes.h"
@@ -54,7 +55,7 @@ public:
     // Never answers false: anything but a parameter-set list (null too)
     // reaches setParamSets as null and raises there.
     bool setChild(INodeCfg* child) override {
-        setParamSets(dynamic_cast<IParamSetsCfg*>(child));
+        setParamSets(nodeCast<IParamSetsCfg>(child));
         return true;
     }
 

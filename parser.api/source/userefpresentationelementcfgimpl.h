@@ -4,6 +4,7 @@
 
 #include "kazparser/IUseRefPresentationElementCfg.h"
 #include "kazxml/SAX.h"
+#include "nodecast.h"
 #include "usepresentationelementnode.h"
 
 namespace kaz::kazparser {
@@ -29,7 +30,7 @@ public:
     // Never answers false: anything but extension parameters (null too)
     // reaches setExtParams as null and raises there.
     bool setChild(INodeCfg* child) override {
-        setExtParams(dynamic_cast<IExtParamsCfg*>(child));
+        setExtParams(nodeCast<IExtParamsCfg>(child));
         return true;
     }
 
