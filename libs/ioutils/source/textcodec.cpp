@@ -82,15 +82,6 @@ char32_t decodeUtf8(std::string_view text, std::size_t& pos) {
     return c;
 }
 
-// The sum of utf8Length over the text, the choice made at compile time
-// so that the loop is vector code.
-template <Unencodable kUnencodable>
-std::size_t utf8LengthOf(std::wstring_view text) {
-    std::size_t length = 0;
-    for (wchar_t c : text) length += utf8Length(c, kUnencodable);
-    return length;
-}
-
 }  // namespace
 
 // Both directions size their result once (the text is measured first, or
@@ -101,13 +92,12 @@ std::string utf8FromWide(std::wstring_view text) {
     return out;
 }
 
-void appendUtf8FromWide(std::string& out, std::wstring_view text, Unencodable unencodable) {
-    const std::size_t length = unencodable == Unencodable::Replace
-                                   ? utf8LengthOf<Unencodable::Replace>(text)
-                                   : utf8LengthOf<Unencodable::KeepValue>(text);
+void appendUtf8FromWide(std::string& out, std::wstring_view text) {
+    std::size_t length = 0;
+    for (wchar_t c : text) length += utf8Length(c);
     const std::size_t start = out.size();
     out.resize(start + length);
-    encodeUtf8(out.data() + start, text, unencodable);
+    encodeUtf8(out.data() + start, text);
 }
 
 char* encodeUtf8(char* out, std::wstring_view text, Unencodable unencodable) {

@@ -40,22 +40,6 @@ bool resetPushParser(xmlParserCtxtPtr ctxt) {
 
 namespace {
 
-// The first of `a`, `b` and `c` at or after `from`, or the text's size.
-// Whole blocks are tested at once, branch-free, so that it is vector code.
-std::size_t findAny(std::wstring_view text, std::size_t from, wchar_t a, wchar_t b, wchar_t c) {
-    constexpr std::size_t kBlock = ioutils::kAsciiBlock;
-    for (; from + kBlock <= text.size(); from += kBlock) {
-        int found = 0;
-        for (std::size_t i = 0; i < kBlock; ++i) {
-            const wchar_t unit = text[from + i];
-            found |= int{unit == a} | int{unit == b} | int{unit == c};
-        }
-        if (found != 0) break;
-    }
-    while (from < text.size() && text[from] != a && text[from] != b && text[from] != c) ++from;
-    return from;
-}
-
 // Finds start tags with more attributes than the reader allows, before
 // libxml2 sees them: it checks each attribute against all before it, so
 // that its time grows with the square of their number.
@@ -143,7 +127,7 @@ private:
     bool startTagAllowed(std::size_t open) {
         int values = 0;
         std::size_t at = open + 1;
-        while ((at = findAny(text_, at, L'>', L'"', L'\'')) < text_.size() && text_[at] != L'>') {
+        while ((at = text_.find_first_of(L">\"'", at)) != text_.npos && text_[at] != L'>') {
             if (++values > SAXXMLReader::kMaxAttributes) return false;
             at = text_.find(text_[at], at + 1);
             if (at == text_.npos) break;
@@ -186,9 +170,9 @@ std::optional<ErrorReport> feedPushParser(xmlParserCtxtPtr ctxt, std::wstring_vi
                       !crowded && offset == text.size() ? 1 : 0);
         if (crowded) {
             if (stop) break;  // an error before the tag comes first
-            const std::size_t line = 1 + lineBreaks(text, 0, *crowded);
-            return ErrorReport{XML_E_TOO_MANY_ATTRIBUTES, static_cast<int>(line),
-                               static_cast<int>(1 + *crowded - lineStart(text, *crowded)),
+            LinePosition tag(text);
+            tag.advanceTo(*crowded);
+            return ErrorReport{XML_E_TOO_MANY_ATTRIBUTES, tag.line(), tag.column(),
                                refusalMessage(XML_E_TOO_MANY_ATTRIBUTES)};
         }
     }
@@ -283,19 +267,6 @@ ErrorReport emptyDocument() {
 std::wstring describe(const ErrorReport& report) {
     return L"line " + std::to_wstring(report.line) + L", column " + std::to_wstring(report.column) +
            L": " + report.message;
-}
-
-std::size_t lineBreaks(std::wstring_view text, std::size_t from, std::size_t to) {
-    std::size_t count = 0;
-    for (std::size_t i = from; i < to; ++i)
-        count += static_cast<std::size_t>(int{text[i] == L'\n'} |
-                                          (int{text[i] == L'\r'} & int{text[i + 1] != L'\n'}));
-    return count;
-}
-
-std::size_t lineStart(std::wstring_view text, std::size_t at) {
-    while (at > 0 && text[at - 1] != L'\n' && text[at - 1] != L'\r') --at;
-    return at;
 }
 
 int currentLine(const xmlParserCtxt* ctxt) {

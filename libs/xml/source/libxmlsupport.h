@@ -97,11 +97,33 @@ ErrorReport emptyDocument();
 // "line 3, column 7: <message>"
 std::wstring describe(const ErrorReport& report);
 
-// The line breaks in [from, to), "\r\n" counted once at its "\n".
-// Branch-free so that it becomes vector code; text[to] must exist.
-std::size_t lineBreaks(std::wstring_view text, std::size_t from, std::size_t to);
-// Where the line holding `at` begins.
-std::size_t lineStart(std::wstring_view text, std::size_t at);
+// Line and column (from 1) of places in a wide text, one character a
+// column, moved on in increasing order so that the text is read once. Line
+// breaks are "\n", "\r\n" and "\r".
+class LinePosition {
+public:
+    explicit LinePosition(std::wstring_view text) : text_(text) {}
+
+    // Moves on to `target` (never back); text[target] must exist.
+    void advanceTo(std::size_t target) {
+        for (; offset_ < target; ++offset_) {
+            const wchar_t unit = text_[offset_];
+            if (unit > L'\r') continue;
+            if (unit == L'\n' || (unit == L'\r' && text_[offset_ + 1] != L'\n')) {
+                ++line_;
+                lineBegin_ = offset_ + 1;
+            }
+        }
+    }
+    int line() const { return line_; }
+    int column() const { return 1 + static_cast<int>(offset_ - lineBegin_); }
+
+private:
+    std::wstring_view text_;
+    std::size_t offset_ = 0;
+    std::size_t lineBegin_ = 0;  // where line_ begins
+    int line_ = 1;
+};
 
 int currentLine(const xmlParserCtxt* ctxt);
 int currentColumn(const xmlParserCtxt* ctxt);

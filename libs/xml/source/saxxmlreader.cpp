@@ -37,14 +37,15 @@ std::wstring hex(long code) {
 // and "\r".
 class TextPositions {
 public:
-    explicit TextPositions(std::wstring_view text) : text_(text), nextWide_(nextWideFrom(0)) {}
+    explicit TextPositions(std::wstring_view text)
+        : text_(text), nextWide_(nextWideFrom(0)), lines_(text) {}
 
     // The position of the last "<" before UTF-8 byte `end`.
     std::pair<int, int> tagStartBefore(std::size_t end) {
         mapBytes(end);
         const std::size_t tag = characters_ == 0 ? text_.npos : text_.rfind(L'<', characters_ - 1);
-        if (tag != text_.npos) advanceTo(tag);
-        return {line_, column_};
+        if (tag != text_.npos) lines_.advanceTo(tag);
+        return {lines_.line(), lines_.column()};
     }
 
 private:
@@ -74,31 +75,11 @@ private:
         return at;
     }
 
-    // Moves line and column on to `target`, where the text holds a "<".
-    // Tags stand a few dozen characters apart: one pass over the gap notes
-    // the line breaks ("\r\n" counted once) and where the last line began.
-    void advanceTo(std::size_t target) {
-        if (target < offset_) return;
-        for (std::size_t i = offset_; i < target; ++i) {
-            const wchar_t unit = text_[i];
-            if (unit > L'\r') continue;
-            if (unit == L'\n' || (unit == L'\r' && text_[i + 1] != L'\n')) {
-                ++line_;
-                lineBegin_ = i + 1;
-            }
-        }
-        column_ = 1 + static_cast<int>(target - lineBegin_);
-        offset_ = target;
-    }
-
     std::wstring_view text_;
     std::size_t characters_ = 0;  // the characters that make up the first
     std::size_t bytes_ = 0;       // `bytes_` bytes of UTF-8
     std::size_t nextWide_;        // the next character that is not ASCII
-    std::size_t offset_ = 0;      // where line_ and column_ are
-    std::size_t lineBegin_ = 0;   // where line_ begins
-    int line_ = 1;
-    int column_ = 1;
+    detail::LinePosition lines_;
 };
 
 // Answers the parser's current position, or that of the error being

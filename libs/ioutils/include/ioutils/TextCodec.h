@@ -18,14 +18,14 @@ IOUTILS_API std::string utf8FromWide(std::wstring_view text);
 // strict reader refuses where it stands.
 enum class Unencodable { Replace, KeepValue };
 // The same appended to `out`.
-IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text,
-                                    Unencodable unencodable = Unencodable::Replace);
+IOUTILS_API void appendUtf8FromWide(std::string& out, std::wstring_view text);
 // The same written from `out` on, which has room for 4 bytes a character
-// (kMaxUtf8Length); answers the end of what it wrote.
+// (kMaxUtf8Length), with the choice for unencodable values; answers the end
+// of what it wrote.
 IOUTILS_API char* encodeUtf8(char* out, std::wstring_view text,
                              Unencodable unencodable = Unencodable::Replace);
 inline constexpr std::size_t kMaxUtf8Length = 4;
-// The number of UTF-8 bytes appendUtf8FromWide writes for `c`. Free of
+// The number of UTF-8 bytes encodeUtf8 writes for `c`. Free of
 // branches, so that loops summing it vectorize.
 inline std::size_t utf8Length(wchar_t c, Unencodable unencodable = Unencodable::Replace) {
     const auto code = static_cast<char32_t>(c);
