@@ -67,6 +67,48 @@ void copyCharacters(void* context, Utf8 text, int length) {
     appendWide(static_cast<Copies*>(context)->text, text, text + length);
 }
 
+// The open elements of a minimal tree, and the text since the last tag.
+struct MinimalBuild {
+    std::unique_ptr<MinimalNode> root;
+    std::vector<MinimalNode*> open;
+    std::wstring text;
+
+    // Text between tags is kept only where it is more than layout.
+    void flushText() {
+        if (!open.empty() && text.find_first_not_of(L" \t\r\n") != std::wstring::npos)
+            open.back()->text = text;
+        text.clear();
+    }
+};
+
+void minimalStart(void* context, Utf8, Utf8, Utf8, int, Utf8*, int attributeCount, int,
+                  Utf8* attributes) {
+    auto& build = *static_cast<MinimalBuild*>(context);
+    build.flushText();
+    auto node = std::make_unique<MinimalNode>();
+    node->values.resize(static_cast<std::size_t>(attributeCount));
+    for (int i = 0; i < attributeCount; ++i) {
+        Utf8* attribute = attributes + 5 * i;
+        appendWide(node->values[static_cast<std::size_t>(i)], attribute[3], attribute[4]);
+    }
+    MinimalNode* opened = node.get();
+    if (build.open.empty())
+        build.root = std::move(node);
+    else
+        build.open.back()->children.push_back(std::move(node));
+    build.open.push_back(opened);
+}
+
+void minimalEnd(void* context, Utf8, Utf8, Utf8) {
+    auto& build = *static_cast<MinimalBuild*>(context);
+    build.flushText();
+    build.open.pop_back();
+}
+
+void minimalCharacters(void* context, Utf8 text, int length) {
+    appendWide(static_cast<MinimalBuild*>(context)->text, text, text + length);
+}
+
 bool parse(xmlSAXHandler& handler, void* context, const std::string& text) {
     handler.initialized = XML_SAX2_MAGIC;
     return xmlSAXUserParseMemory(&handler, context, text.data(), static_cast<int>(text.size())) ==
@@ -91,6 +133,16 @@ bool parseWithCopyingCallbacks(const std::string& text) {
     Copies copies;
     const bool parsed = parse(handler, &copies, text);
     return parsed && copies.characters > 0;
+}
+
+std::unique_ptr<MinimalNode> buildMinimalTree(const std::string& text) {
+    xmlSAXHandler handler{};
+    handler.startElementNs = minimalStart;
+    handler.endElementNs = minimalEnd;
+    handler.characters = minimalCharacters;
+    MinimalBuild build;
+    if (!parse(handler, &build, text)) return nullptr;
+    return std::move(build.root);
 }
 
 }  // namespace kazbench

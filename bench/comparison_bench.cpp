@@ -185,6 +185,20 @@ void BM_ToXmlLarge(benchmark::State& state) {
 }
 BENCHMARK(BM_ToXmlLarge)->Unit(benchmark::kMillisecond);
 
+// The least any fresh text of the large tree's length costs: a new wide
+// string of that many characters, each written once (its pages are first
+// touched here, as a fresh toXml's are).
+void BM_FreshTextOfToXmlLength(benchmark::State& state) {
+    const std::size_t characters = largeTree().toXml().size();
+    for (auto _ : state) {
+        std::optional<std::wstring> text(std::in_place, characters, L'x');
+        benchmark::DoNotOptimize(text->data());
+        untimed(state, [&] { text.reset(); });
+    }
+    setBytes(state, writtenSize());
+}
+BENCHMARK(BM_FreshTextOfToXmlLength)->Unit(benchmark::kMillisecond);
+
 // Pieces handed to a writer that only counts them.
 class CountingWriter final : public tableobj::IXmlWriter {
 public:
@@ -212,6 +226,30 @@ void BM_CloneLarge(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_CloneLarge)->Unit(benchmark::kMillisecond);
+
+// The floor of a tree of separate heap nodes: see kazbench::MinimalNode.
+void BM_MinimalTreeBuild(benchmark::State& state) {
+    for (auto _ : state) {
+        auto tree = kazbench::buildMinimalTree(large().utf8);
+        expect(state, tree != nullptr);
+        untimed(state, [&] {
+            tree.reset();
+            settleHeap();
+        });
+    }
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_MinimalTreeBuild)->Unit(benchmark::kMillisecond);
+
+void BM_MinimalTreeDelete(benchmark::State& state) {
+    for (auto _ : state) {
+        std::unique_ptr<kazbench::MinimalNode> tree;
+        untimed(state, [&] { tree = kazbench::buildMinimalTree(large().utf8); });
+        tree.reset();
+        settleHeap();
+    }
+}
+BENCHMARK(BM_MinimalTreeDelete)->Unit(benchmark::kMillisecond);
 
 void BM_DeleteLarge(benchmark::State& state) {
     for (auto _ : state) {

@@ -50,12 +50,16 @@ public:
         rate("pugixml save", "BM_PugixmlSave", std::nullopt, "");
         rate("typed tree, large text", "BM_BuildLarge", sax, ">= 0.40 of SAX2");
         rate("generic tree, large text", "BM_BuildGenericLarge", sax, "");
+        rate("minimal tree of heap nodes", "BM_MinimalTreeBuild", sax, "");
         rate("toXml of the large tree", "BM_ToXmlLarge", std::nullopt, ">= 300 MB/s");
+        rate("a fresh text of the same length", "BM_FreshTextOfToXmlLength", std::nullopt, "");
         rate("writeXml of the large tree", "BM_WriteXmlLarge", std::nullopt, "");
         time("typed tree, small text", "BM_BuildSmall", find("BM_Sax2CopyingSmall"), 1e6, "us",
              "<= 2 x copying SAX2");
         time("clone of the large tree", "BM_CloneLarge", build, 1e3, "ms", "");
         time("delete of the large tree", "BM_DeleteLarge", build, 1e3, "ms", "<= 0.25 of build");
+        time("delete of the minimal tree", "BM_MinimalTreeDelete", find("BM_MinimalTreeBuild"), 1e3,
+             "ms", "");
         multiple("heap kept by the tree", "kept", "<= 5 x input");
         multiple("peak heap while building", "peak", "<= 7 x input");
     }

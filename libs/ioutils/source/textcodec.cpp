@@ -1,6 +1,7 @@
 #include "ioutils/TextCodec.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace ioutils {
 namespace {
@@ -11,11 +12,16 @@ bool encodable(char32_t c) {
     return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
 }
 
-// Copies a block of ASCII units, widening or narrowing them.
+// Copies a block of ASCII units, widening or narrowing them (through local
+// arrays, which the compiler knows do not overlap, so in vector code).
 template <class To, class From>
 To* copyBlock(To* out, const From* in) {
-    for (std::size_t i = 0; i < kAsciiBlock; ++i) out[i] = static_cast<To>(in[i]);
-    return out + kAsciiBlock;
+    From units[kBlock];
+    std::memcpy(units, in, sizeof units);
+    To copied[kBlock];
+    for (std::size_t i = 0; i < kBlock; ++i) copied[i] = static_cast<To>(units[i]);
+    std::memcpy(out, copied, sizeof copied);
+    return out + kBlock;
 }
 
 constexpr char32_t kLargestFourBytes = 0x1FFFFF;
@@ -101,14 +107,18 @@ void appendUtf8FromWide(std::string& out, std::wstring_view text) {
 }
 
 char* encodeUtf8(char* out, std::wstring_view text, Unencodable unencodable) {
-    for (std::size_t pos = 0; pos < text.size();) {
-        if (pos + kAsciiBlock <= text.size() && asciiBlock(text.data() + pos)) {
-            out = copyBlock(out, text.data() + pos);
-            pos += kAsciiBlock;
+    std::size_t pos = 0;
+    for (; pos + kBlock <= text.size(); pos += kBlock) {
+        const wchar_t* block = text.data() + pos;
+        if (asciiBlock(block)) {
+            out = copyBlock(out, block);
         } else {
-            out = putUtf8(out, static_cast<char32_t>(text[pos++]), unencodable);
+            for (std::size_t i = 0; i < kBlock; ++i)
+                out = putUtf8(out, static_cast<char32_t>(block[i]), unencodable);
         }
     }
+    for (; pos < text.size(); ++pos)
+        out = putUtf8(out, static_cast<char32_t>(text[pos]), unencodable);
     return out;
 }
 
@@ -122,11 +132,14 @@ void assignWideFromUtf8(std::wstring& out, std::string_view text) {
     out.resize(text.size());
     wchar_t* at = out.data();
     for (std::size_t pos = 0; pos < text.size();) {
-        if (pos + kAsciiBlock <= text.size() && asciiBlock(text.data() + pos)) {
+        if (pos + kBlock <= text.size() && asciiBlock(text.data() + pos)) {
             at = copyBlock(at, reinterpret_cast<const unsigned char*>(text.data() + pos));
-            pos += kAsciiBlock;
+            pos += kBlock;
         } else {
-            *at++ = static_cast<wchar_t>(decodeUtf8(text, pos));
+            // A block's worth decoded before the next test (a sequence may
+            // run past it).
+            const std::size_t end = std::min(pos + kBlock, text.size());
+            while (pos < end) *at++ = static_cast<wchar_t>(decodeUtf8(text, pos));
         }
     }
     out.resize(static_cast<std::size_t>(at - out.data()));

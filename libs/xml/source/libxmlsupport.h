@@ -3,10 +3,13 @@
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "ioutils/TextCodec.h"
 #include "kazxml/Result.h"
 
 // Helpers shared by the SAX reader and the document loader.
@@ -104,14 +107,21 @@ class LinePosition {
 public:
     explicit LinePosition(std::wstring_view text) : text_(text) {}
 
-    // Moves on to `target` (never back); text[target] must exist.
+    // Moves on to `target` (never back); text[target] must exist. Blocks
+    // without a line break are passed whole.
     void advanceTo(std::size_t target) {
-        for (; offset_ < target; ++offset_) {
-            const wchar_t unit = text_[offset_];
-            if (unit > L'\r') continue;
-            if (unit == L'\n' || (unit == L'\r' && text_[offset_ + 1] != L'\n')) {
-                ++line_;
-                lineBegin_ = offset_ + 1;
+        while (offset_ < target) {
+            const std::size_t end = std::min(offset_ + ioutils::kBlock, target);
+            if (end - offset_ == ioutils::kBlock && !mayBreakLine(text_.data() + offset_)) {
+                offset_ = end;
+                continue;
+            }
+            for (; offset_ < end; ++offset_) {
+                const wchar_t unit = text_[offset_];
+                if (unit == L'\n' || (unit == L'\r' && text_[offset_ + 1] != L'\n')) {
+                    ++line_;
+                    lineBegin_ = offset_ + 1;
+                }
             }
         }
     }
@@ -119,6 +129,12 @@ public:
     int column() const { return 1 + static_cast<int>(offset_ - lineBegin_); }
 
 private:
+    // Whether a block holds a unit up to '\r' (or one beyond 0x8000000D,
+    // which the unit-by-unit pass then passes over).
+    static bool mayBreakLine(const wchar_t* block) {
+        return ioutils::orOverBlock(block, [](auto units) { return units - (L'\r' + 1u); }) >> 31;
+    }
+
     std::wstring_view text_;
     std::size_t offset_ = 0;
     std::size_t lineBegin_ = 0;  // where line_ begins

@@ -43,7 +43,7 @@ public:
     // The position of the last "<" before UTF-8 byte `end`.
     std::pair<int, int> tagStartBefore(std::size_t end) {
         mapBytes(end);
-        const std::size_t tag = characters_ == 0 ? text_.npos : text_.rfind(L'<', characters_ - 1);
+        const std::size_t tag = lastTagOpenBefore(characters_);
         if (tag != text_.npos) lines_.advanceTo(tag);
         return {lines_.line(), lines_.column()};
     }
@@ -65,12 +65,31 @@ private:
         }
     }
 
+    // The last "<" before `end`, or npos; whole blocks are tested at once.
+    std::size_t lastTagOpenBefore(std::size_t end) const {
+        std::size_t at = end;
+        while (at >= ioutils::kBlock && !holdsTagOpen(text_.data() + at - ioutils::kBlock))
+            at -= ioutils::kBlock;
+        return at == 0 ? text_.npos : text_.rfind(L'<', at - 1);
+    }
+
+    static bool holdsTagOpen(const wchar_t* block) {
+        // A unit equal to "<" is the one whose XOR with it is zero.
+        return ioutils::orOverBlock(block,
+                                    [](auto units) {
+                                        const auto difference =
+                                            units ^ static_cast<std::uint32_t>(L'<');
+                                        return (difference - 1u) & ~difference;
+                                    }) >>
+               31;
+    }
+
     // The first character at or after `from` that is not ASCII; whole
     // blocks are tested at once.
     std::size_t nextWideFrom(std::size_t from) const {
         std::size_t at = from;
-        while (at + ioutils::kAsciiBlock <= text_.size() && ioutils::asciiBlock(text_.data() + at))
-            at += ioutils::kAsciiBlock;
+        while (at + ioutils::kBlock <= text_.size() && ioutils::asciiBlock(text_.data() + at))
+            at += ioutils::kBlock;
         while (at < text_.size() && static_cast<char32_t>(text_[at]) < 0x80) ++at;
         return at;
     }

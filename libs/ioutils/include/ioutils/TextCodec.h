@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -32,15 +33,32 @@ inline std::size_t utf8Length(wchar_t c, Unencodable unencodable = Unencodable::
     return 1 + (code >= 0x80) + (code >= 0x800) +
            (code >= 0x10000 && (code <= 0x10FFFF || unencodable == Unencodable::KeepValue));
 }
-// The units the ASCII fast paths test at once.
-inline constexpr std::size_t kAsciiBlock = 16;
-// Whether the kAsciiBlock units (char or wchar_t) from `at` are all ASCII.
-// Free of branches, so that the compiler tests the block with vector code.
-template <class Unit>
-bool asciiBlock(const Unit* at) {
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < kAsciiBlock; ++i) bits |= static_cast<std::uint32_t>(at[i]);
-    return bits < 0x80;
+// The units the fast paths of text scans test at once.
+inline constexpr std::size_t kBlock = 16;
+// The OR of `lane(units)` over the kBlock wide units from `at`, taken four
+// lanes at a time in vector code (GCC and Clang vector extensions). `lane`
+// sees unsigned 32-bit lanes.
+template <class Lane>
+std::uint32_t orOverBlock(const wchar_t* at, Lane lane) {
+    static_assert(sizeof(wchar_t) == sizeof(std::uint32_t));
+    using Lanes = std::uint32_t __attribute__((vector_size(16)));
+    constexpr std::size_t kLanes = sizeof(Lanes) / sizeof(std::uint32_t);
+    Lanes bits{};
+    for (std::size_t i = 0; i < kBlock; i += kLanes) {
+        Lanes units;
+        std::memcpy(&units, at + i, sizeof units);
+        bits |= lane(units);
+    }
+    return bits[0] | bits[1] | bits[2] | bits[3];
+}
+// Whether the kBlock units from `at` are all ASCII.
+inline bool asciiBlock(const wchar_t* at) {
+    return orOverBlock(at, [](auto units) { return units; }) < 0x80;
+}
+inline bool asciiBlock(const char* at) {
+    std::uint64_t words[kBlock / sizeof(std::uint64_t)];
+    std::memcpy(words, at, sizeof words);
+    return ((words[0] | words[1]) & 0x8080808080808080u) == 0;
 }
 IOUTILS_API std::wstring wideFromUtf8(std::string_view text);
 // The same into `out`, reusing its storage.
