@@ -69,6 +69,18 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
     return allocate(size);
 }
+void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
+    const auto align = static_cast<std::size_t>(alignment);
+    return allocationAllowed() ? std::aligned_alloc(align, (size + align - 1) / align * align)
+                               : nullptr;
+}
+void* operator new(std::size_t size, std::align_val_t alignment) {
+    if (void* p = operator new(size, alignment, std::nothrow)) return p;
+    throw std::bad_alloc();
+}
+void operator delete(void* p, std::align_val_t) noexcept {
+    deallocate(p);
+}
 void operator delete(void* p) noexcept {
     deallocate(p);
 }

@@ -78,4 +78,31 @@ TEST(ThreadsTest, TextsReadOnSeveralThreadsAtOnceGiveWhatTheyGiveInTurn) {
                 << "thread " << t << ", round " << round;
 }
 
+// Nodes share the memory chunks of the thread that made them; a chunk goes
+// when its last node is deleted, whichever thread deletes it.
+TEST(ThreadsTest, TreesMadeOnOneThreadAreDeletedOnAnotherWhileItMakesMore) {
+    const std::vector<std::wstring> texts = exampleTexts();
+    const long live = MemObject::liveCount();
+    constexpr std::size_t kThreads = 4;
+    using Trees = std::vector<std::unique_ptr<INodeCfg>>;
+    auto makeAll = [&](Trees& trees) {
+        for (const std::wstring& text : texts)
+            trees.emplace_back(KAZConfigFactory::createNodeCfg(&text, nullptr));
+    };
+    auto onEachThread = [](auto step) {
+        std::vector<std::thread> threads;
+        for (std::size_t t = 0; t < kThreads; ++t) threads.emplace_back(step, t);
+        for (std::thread& thread : threads) thread.join();
+    };
+    std::vector<Trees> first(kThreads), second(kThreads);
+    onEachThread([&](std::size_t t) { makeAll(first[t]); });
+    onEachThread([&](std::size_t t) {
+        first[(t + 1) % kThreads].clear();
+        makeAll(second[t]);
+    });
+    for (const Trees& trees : second) EXPECT_EQ(trees.size(), texts.size());
+    second.clear();
+    EXPECT_EQ(MemObject::liveCount(), live);
+}
+
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "chunkpool.h"
+
 namespace {
 std::atomic<long> live{0};
 std::atomic<long> allocationsLeft{-1};
@@ -21,9 +23,7 @@ MemObject::~MemObject() = default;
 
 void* MemObject::operator new(std::size_t size, const std::nothrow_t&) noexcept {
     if (!allocationAllowed()) return nullptr;
-    // Through the global allocator, so that a program replacing it sees
-    // every allocation.
-    void* p = ::operator new(size, std::nothrow);
+    void* p = memobject::chunkpool::allocate(size);
     if (p != nullptr) ++live;
     return p;
 }
@@ -34,14 +34,14 @@ void* MemObject::operator new(std::size_t size) {
     return p;
 }
 
-void MemObject::operator delete(void* p) noexcept {
+void MemObject::operator delete(void* p, std::size_t size) noexcept {
     if (p == nullptr) return;
     --live;
-    ::operator delete(p);
+    memobject::chunkpool::deallocate(p, size);
 }
 
 void MemObject::operator delete(void* p, const std::nothrow_t&) noexcept {
-    operator delete(p);
+    operator delete(p, 0);
 }
 
 long MemObject::liveCount() noexcept {

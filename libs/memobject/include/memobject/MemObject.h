@@ -12,13 +12,16 @@
 // Virtual base of every node and value object. Objects are allocated through
 // the class-level operators, which keep a count of live objects so that tests
 // and hosts can prove that a tree and everything handed back were freed.
+// Their memory comes in chunks from the global allocator, each freed once
+// all objects in it are deleted (on any thread).
 class MEMOBJECT_API MemObject {
 public:
     virtual ~MemObject();
 
     static void* operator new(std::size_t size);
     static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
-    static void operator delete(void* p) noexcept;
+    static void operator delete(void* p, std::size_t size) noexcept;
+    // For a constructor that throws after the nothrow form.
     static void operator delete(void* p, const std::nothrow_t&) noexcept;
 
     // Number of objects allocated through MemObject and not yet freed.
