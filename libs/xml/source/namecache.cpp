@@ -25,12 +25,21 @@ const typename Map::mapped_type& remembered(Map& map, const typename Map::key_ty
 }  // namespace
 
 const WideName& NameCache::name(const xmlChar* prefix, const xmlChar* localName) {
-    return remembered(
-        names_, {prefix, localName}, [&] { return interned(prefix) && interned(localName); },
+    const Key key{prefix, localName};
+    const auto mixed = (reinterpret_cast<std::uintptr_t>(prefix) * 31 +
+                        reinterpret_cast<std::uintptr_t>(localName)) *
+                       std::uint64_t{0x9E3779B97F4A7C15};
+    Recent& recent = recent_[mixed >> (64 - kRecentBits)];
+    if (recent.name != nullptr && recent.key == key) return *recent.name;
+    const WideName& found = remembered(
+        names_, key, [&] { return interned(prefix) && interned(localName); },
         [&] {
             return WideName{toWide(localName), qualifiedName(prefix, localName)};
         },
         unshared_);
+    // An unshared text's pointer may stand for another text later.
+    if (unshared_.empty() || &found != &unshared_.back()) recent = {key, &found};
+    return found;
 }
 
 const WideName& NameCache::declarationName(const xmlChar* prefix) {
@@ -44,6 +53,8 @@ const WideName& NameCache::declarationName(const xmlChar* prefix) {
 }
 
 const std::wstring& NameCache::namespaceName(const xmlChar* uri) {
+    static const std::wstring none;
+    if (uri == nullptr) return none;
     return remembered(
         namespaces_, uri, [&] { return interned(uri); }, [&] { return detail::namespaceName(uri); },
         unsharedNamespaces_);

@@ -2,6 +2,8 @@
 
 #include <libxml/parser.h>
 
+#include <array>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <string>
@@ -43,7 +45,16 @@ private:
 
     bool interned(const xmlChar* text) const;
 
+    // The names met last, by where their key falls: most lookups end here,
+    // without the map's hashing and pointer chasing.
+    struct Recent {
+        Key key;
+        const WideName* name = nullptr;
+    };
+    static constexpr std::size_t kRecentBits = 8;
+
     xmlDictPtr dict_ = nullptr;
+    std::array<Recent, std::size_t{1} << kRecentBits> recent_{};
     std::unordered_map<Key, WideName, KeyHash> names_;
     std::unordered_map<const xmlChar*, WideName> declarations_;
     std::unordered_map<const xmlChar*, std::wstring> namespaces_;
