@@ -1,5 +1,6 @@
 // Every allocation can fail: this program replaces the global allocator
-// and libxml2's, so that the Nth allocation of any kind fails. For N = 0,
+// and libxml2's, so that the Nth allocation of any kind fails (nodes, which
+// otherwise share chunks, each come from the global allocator here). For N = 0,
 // 1, 2, ... until a run completes, each example is built, copied, written
 // and its references resolved; every failure must reach the caller as an
 // error (thrown, or shown as the reader's failures are), free all it made,
@@ -78,7 +79,25 @@ void* operator new(std::size_t size, std::align_val_t alignment) {
     if (void* p = operator new(size, alignment, std::nothrow)) return p;
     throw std::bad_alloc();
 }
+void* operator new[](std::size_t size, std::align_val_t alignment) {
+    return operator new(size, alignment);
+}
+void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
+    return operator new(size, alignment, std::nothrow);
+}
 void operator delete(void* p, std::align_val_t) noexcept {
+    deallocate(p);
+}
+void operator delete(void* p, std::size_t, std::align_val_t) noexcept {
+    deallocate(p);
+}
+void operator delete(void* p, std::align_val_t, const std::nothrow_t&) noexcept {
+    deallocate(p);
+}
+void operator delete[](void* p, std::align_val_t) noexcept {
+    deallocate(p);
+}
+void operator delete[](void* p, std::size_t, std::align_val_t) noexcept {
     deallocate(p);
 }
 void operator delete(void* p) noexcept {
@@ -161,6 +180,11 @@ class AllocationFailureTest : public ExamplesRootTest,
 // exactly what a run without failures sees), and frees what it made.
 TEST_P(AllocationFailureTest, EveryFailingAllocationIsReportedAndFreesAllItMade) {
     ASSERT_TRUE(xmlAllocatorInstalled);
+    // Each node from the global allocator, so that each can fail.
+    struct SeparateNodes {
+        SeparateNodes() { MemObject::allocateSeparately(true); }
+        ~SeparateNodes() { MemObject::allocateSeparately(false); }
+    } separateNodes;
     const std::wstring text = readFile(examplesDirectory() / GetParam());
     const std::wstring expected = buildCopyWriteResolve(text);
     ASSERT_NE(expected, L"(null)");

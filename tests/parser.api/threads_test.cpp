@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <barrier>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -79,7 +80,8 @@ TEST(ThreadsTest, TextsReadOnSeveralThreadsAtOnceGiveWhatTheyGiveInTurn) {
 }
 
 // Nodes share the memory chunks of the thread that made them; a chunk goes
-// when its last node is deleted, whichever thread deletes it.
+// when its last node is deleted, whichever thread deletes it, even while
+// its maker still fills it.
 TEST(ThreadsTest, TreesMadeOnOneThreadAreDeletedOnAnotherWhileItMakesMore) {
     const std::vector<std::wstring> texts = exampleTexts();
     const long live = MemObject::liveCount();
@@ -89,17 +91,17 @@ TEST(ThreadsTest, TreesMadeOnOneThreadAreDeletedOnAnotherWhileItMakesMore) {
         for (const std::wstring& text : texts)
             trees.emplace_back(KAZConfigFactory::createNodeCfg(&text, nullptr));
     };
-    auto onEachThread = [](auto step) {
-        std::vector<std::thread> threads;
-        for (std::size_t t = 0; t < kThreads; ++t) threads.emplace_back(step, t);
-        for (std::thread& thread : threads) thread.join();
-    };
     std::vector<Trees> first(kThreads), second(kThreads);
-    onEachThread([&](std::size_t t) { makeAll(first[t]); });
-    onEachThread([&](std::size_t t) {
-        first[(t + 1) % kThreads].clear();
-        makeAll(second[t]);
-    });
+    std::barrier allMade(static_cast<std::ptrdiff_t>(kThreads));
+    std::vector<std::thread> threads;
+    for (std::size_t t = 0; t < kThreads; ++t)
+        threads.emplace_back([&, t] {
+            makeAll(first[t]);
+            allMade.arrive_and_wait();
+            first[(t + 1) % kThreads].clear();
+            makeAll(second[t]);
+        });
+    for (std::thread& thread : threads) thread.join();
     for (const Trees& trees : second) EXPECT_EQ(trees.size(), texts.size());
     second.clear();
     EXPECT_EQ(MemObject::liveCount(), live);

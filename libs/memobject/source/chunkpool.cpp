@@ -1,5 +1,6 @@
 #include "chunkpool.h"
 
+#include <algorithm>
 #include <atomic>
 #include <climits>
 #include <cstdint>
@@ -16,9 +17,11 @@
 #include <sanitizer/asan_interface.h>
 #define CHUNKPOOL_POISON(block, size) ASAN_POISON_MEMORY_REGION(block, size)
 #define CHUNKPOOL_UNPOISON(block, size) ASAN_UNPOISON_MEMORY_REGION(block, size)
+#define CHUNKPOOL_REDZONE 16  // poisoned room after each object, to catch overflows
 #else
 #define CHUNKPOOL_POISON(block, size) ((void)(block), (void)(size))
 #define CHUNKPOOL_UNPOISON(block, size) ((void)(block), (void)(size))
+#define CHUNKPOOL_REDZONE 0
 #endif
 
 namespace memobject::chunkpool {
@@ -42,6 +45,11 @@ struct alignas(kAlignment) Chunk {
 };
 constexpr std::size_t kHeader = sizeof(Chunk);
 static_assert(kHeader % kAlignment == 0);
+
+// An object's size rounded up to keep the next one aligned.
+std::size_t rounded(std::size_t size) {
+    return (size + kAlignment - 1) / kAlignment * kAlignment;
+}
 
 char* room(Chunk* chunk) {
     return reinterpret_cast<char*>(chunk) + kHeader;
@@ -69,7 +77,14 @@ public:
     Filling() = default;
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
-    ~Filling() { moveOn(nullptr); }
+    ~Filling() {
+        moveOn(nullptr);
+        gone = true;
+    }
+
+    // Set once this thread's Filling is destroyed: objects made later (by
+    // destructors that run after it) take chunks of their own.
+    static thread_local bool gone;
 
     void* take(std::size_t size) noexcept {
         if (static_cast<std::size_t>(end_ - next_) < size) {
@@ -80,7 +95,6 @@ public:
         char* block = next_;
         next_ += size;
         ++handedOut_;
-        CHUNKPOOL_UNPOISON(block, size);
         return block;
     }
 
@@ -99,24 +113,29 @@ private:
     long handedOut_ = 0;
 };
 
+thread_local bool Filling::gone = false;
 thread_local Filling filling;
 
 }  // namespace
 
-void* allocate(std::size_t size) noexcept {
-    size = (size + kAlignment - 1) / kAlignment * kAlignment;
-    if (size == 0) size = kAlignment;
-    if (size <= kChunkSize - kHeader) return filling.take(size);
-    // Too large to share a chunk: one of its own, already full.
-    Chunk* own = newChunk(kHeader + size);
+void* allocateAlone(std::size_t size) noexcept {
+    Chunk* own = newChunk(kHeader + rounded(std::max<std::size_t>(size, 1)));
     if (own == nullptr) return nullptr;
-    own->pending.store(1, std::memory_order_relaxed);
+    own->pending.store(1, std::memory_order_relaxed);  // already full
     CHUNKPOOL_UNPOISON(room(own), size);
     return room(own);
 }
 
+void* allocate(std::size_t size) noexcept {
+    const std::size_t share = rounded(size + CHUNKPOOL_REDZONE);
+    if (size == 0 || share > kChunkSize - kHeader || Filling::gone) return allocateAlone(size);
+    void* block = filling.take(share);
+    if (block != nullptr) CHUNKPOOL_UNPOISON(block, size);
+    return block;
+}
+
 void deallocate(void* block, std::size_t size) noexcept {
-    CHUNKPOOL_POISON(block, size);
+    CHUNKPOOL_POISON(block, rounded(size));
     const auto address = reinterpret_cast<std::uintptr_t>(block);
     release(reinterpret_cast<Chunk*>(address & ~(kChunkSize - 1)), 1);
 }

@@ -14,6 +14,8 @@ namespace memobject::chunkpool {
 // Room for `size` bytes aligned for any object; null when the system
 // allocator has none.
 void* allocate(std::size_t size) noexcept;
+// The same, always in a chunk of its own.
+void* allocateAlone(std::size_t size) noexcept;
 // Gives back what allocate answered; `size` is what was asked for, or 0
 // where it is not known.
 void deallocate(void* block, std::size_t size) noexcept;

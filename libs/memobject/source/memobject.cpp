@@ -7,6 +7,7 @@
 namespace {
 std::atomic<long> live{0};
 std::atomic<long> allocationsLeft{-1};
+std::atomic<bool> separately{false};
 
 // Takes one allocation from the failure budget; false when it is used up.
 bool allocationAllowed() noexcept {
@@ -23,7 +24,8 @@ MemObject::~MemObject() = default;
 
 void* MemObject::operator new(std::size_t size, const std::nothrow_t&) noexcept {
     if (!allocationAllowed()) return nullptr;
-    void* p = memobject::chunkpool::allocate(size);
+    void* p = separately.load(std::memory_order_relaxed) ? memobject::chunkpool::allocateAlone(size)
+                                                         : memobject::chunkpool::allocate(size);
     if (p != nullptr) ++live;
     return p;
 }
@@ -50,4 +52,8 @@ long MemObject::liveCount() noexcept {
 
 void MemObject::failAfter(long allocations) noexcept {
     allocationsLeft.store(allocations);
+}
+
+void MemObject::allocateSeparately(bool on) noexcept {
+    separately.store(on);
 }

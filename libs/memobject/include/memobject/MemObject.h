@@ -20,6 +20,8 @@ public:
 
     static void* operator new(std::size_t size);
     static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+    // Objects are aligned for any fundamental type only.
+    static void* operator new(std::size_t size, std::align_val_t) = delete;
     static void operator delete(void* p, std::size_t size) noexcept;
     // For a constructor that throws after the nothrow form.
     static void operator delete(void* p, const std::nothrow_t&) noexcept;
@@ -31,6 +33,10 @@ public:
     // further one fails (std::bad_alloc, or null for the nothrow form).
     // A negative value switches the failure mode off.
     static void failAfter(long allocations) noexcept;
+    // Test support: while on, each object gets memory of its own from the
+    // global allocator instead of a share of a chunk, so that a program
+    // replacing that allocator sees, and can fail, every object.
+    static void allocateSeparately(bool on) noexcept;
 
 protected:
     MemObject() = default;
