@@ -116,9 +116,23 @@ const std::array<Kind, 32> kKinds = {
 };
 
 // Element names that decide their kind (null: known, but no node).
-std::unordered_map<std::wstring_view, const Kind*> makeNameTable() {
+// Tags differ in length or in their first, middle or last character, so
+// those are hash enough; hashing every character cost more than the rest
+// of the lookup.
+struct TagHash {
+    std::size_t operator()(std::wstring_view name) const noexcept {
+        std::size_t hash = name.size();
+        if (!name.empty())
+            for (const wchar_t c : {name.front(), name[name.size() / 2], name.back()})
+                hash = hash * 131 + static_cast<std::size_t>(c);
+        return hash;
+    }
+};
+using NameTable = std::unordered_map<std::wstring_view, const Kind*, TagHash>;
+
+NameTable makeNameTable() {
     using tableobj::IElement;
-    std::unordered_map<std::wstring_view, const Kind*> names;
+    NameTable names;
     for (T::NodeType type : {T::PresentationGroup,
                              T::InputConfig,
                              T::PresentationElements,

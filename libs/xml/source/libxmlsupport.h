@@ -112,7 +112,9 @@ public:
     void advanceTo(std::size_t target) {
         while (offset_ < target) {
             const std::size_t end = std::min(offset_ + ioutils::kBlock, target);
-            if (end - offset_ == ioutils::kBlock && !mayBreakLine(text_.data() + offset_)) {
+            // A whole block is tested even where it runs past `target`.
+            if (offset_ + ioutils::kBlock <= text_.size() &&
+                !mayBreakLine(text_.data() + offset_)) {
                 offset_ = end;
                 continue;
             }

@@ -49,7 +49,11 @@ std::uint32_t orOverBlock(const wchar_t* at, Lane lane) {
         std::memcpy(&units, at + i, sizeof units);
         bits |= lane(units);
     }
-    return bits[0] | bits[1] | bits[2] | bits[3];
+    // Folded in halves through general registers: fewer steps than lane by lane.
+    std::uint64_t halves[2];
+    std::memcpy(halves, &bits, sizeof halves);
+    const std::uint64_t both = halves[0] | halves[1];
+    return static_cast<std::uint32_t>(both | both >> 32);
 }
 // Whether the kBlock units from `at` are all ASCII.
 inline bool asciiBlock(const wchar_t* at) {
