@@ -116,9 +116,9 @@ const std::array<Kind, 32> kKinds = {
 };
 
 // Element names that decide their kind (null: known, but no node).
-// Tags differ in length or in their first, middle or last character, so
-// those are hash enough; hashing every character cost more than the rest
-// of the lookup.
+// A tag's length and its first, middle and last characters tell the tags
+// apart well enough; hashing every character cost more than the rest of
+// the lookup.
 struct TagHash {
     std::size_t operator()(std::wstring_view name) const noexcept {
         std::size_t hash = name.size();

@@ -16,7 +16,7 @@ namespace memobject::chunkpool {
 void* allocate(std::size_t size) noexcept;
 // The same, always in a chunk of its own.
 void* allocateAlone(std::size_t size) noexcept;
-// Gives back what allocate answered; `size` is what was asked for, or 0
+// Gives back what allocate or allocateAlone answered; `size` is what was asked for, or 0
 // where it is not known.
 void deallocate(void* block, std::size_t size) noexcept;
 

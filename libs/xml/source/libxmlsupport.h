@@ -4,7 +4,6 @@
 #include <libxml/xmlerror.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
