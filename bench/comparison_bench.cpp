@@ -199,6 +199,32 @@ void BM_FreshTextOfToXmlLength(benchmark::State& state) {
 }
 BENCHMARK(BM_FreshTextOfToXmlLength)->Unit(benchmark::kMillisecond);
 
+const kazbench::MinimalNode& minimalTree() {
+    static const auto tree = kazbench::buildMinimalTree(large().utf8);
+    return *tree;
+}
+
+// The floor for writing a tree as one fresh wide text: the minimal tree
+// written into a string reserved to the text's length beforehand (no
+// growth, each page first touched by the writing). Its rate is of the UTF-8
+// size of what it writes.
+void BM_MinimalTreeWrite(benchmark::State& state) {
+    static const std::wstring whole = [] {
+        std::wstring text;
+        kazbench::writeMinimalTree(minimalTree(), text);
+        return text;
+    }();
+    static const std::size_t written = kazbench::utf8(whole).size();
+    for (auto _ : state) {
+        std::optional<std::wstring> text(std::in_place);
+        text->reserve(whole.size());
+        kazbench::writeMinimalTree(minimalTree(), *text);
+        untimed(state, [&] { text.reset(); });
+    }
+    setBytes(state, written);
+}
+BENCHMARK(BM_MinimalTreeWrite)->Unit(benchmark::kMillisecond);
+
 // Pieces handed to a writer that only counts them.
 class CountingWriter final : public tableobj::IXmlWriter {
 public:
@@ -227,10 +253,11 @@ void BM_CloneLarge(benchmark::State& state) {
 }
 BENCHMARK(BM_CloneLarge)->Unit(benchmark::kMillisecond);
 
-// The floor of a tree of separate heap nodes: see kazbench::MinimalNode.
-void BM_MinimalTreeBuild(benchmark::State& state) {
+// Builds and deletes (untimed) the trees `build()` answers.
+template <class Build>
+void buildMinimalWith(benchmark::State& state, Build&& build) {
     for (auto _ : state) {
-        auto tree = kazbench::buildMinimalTree(large().utf8);
+        auto tree = build();
         expect(state, tree != nullptr);
         untimed(state, [&] {
             tree.reset();
@@ -239,7 +266,23 @@ void BM_MinimalTreeBuild(benchmark::State& state) {
     }
     setBytes(state, large().utf8.size());
 }
+
+// The floor of a tree of separate heap nodes: see kazbench::MinimalNode.
+void BM_MinimalTreeBuild(benchmark::State& state) {
+    buildMinimalWith(state, [] { return kazbench::buildMinimalTree(large().utf8); });
+}
 BENCHMARK(BM_MinimalTreeBuild)->Unit(benchmark::kMillisecond);
+
+void BM_ReaderEmpty(benchmark::State& state) {
+    for (auto _ : state) expect(state, kazbench::parseWithReader(large().wide));
+    setBytes(state, large().utf8.size());
+}
+BENCHMARK(BM_ReaderEmpty)->Unit(benchmark::kMillisecond);
+
+void BM_MinimalTreeThroughReader(benchmark::State& state) {
+    buildMinimalWith(state, [] { return kazbench::buildMinimalTreeThroughReader(large().wide); });
+}
+BENCHMARK(BM_MinimalTreeThroughReader)->Unit(benchmark::kMillisecond);
 
 void BM_MinimalTreeDelete(benchmark::State& state) {
     for (auto _ : state) {

@@ -51,8 +51,11 @@ public:
         rate("typed tree, large text", "BM_BuildLarge", sax, ">= 0.40 of SAX2");
         rate("generic tree, large text", "BM_BuildGenericLarge", sax, "");
         rate("minimal tree of heap nodes", "BM_MinimalTreeBuild", sax, "");
+        rate("SAX reader, empty handler", "BM_ReaderEmpty", sax, "");
+        rate("minimal tree through the SAX reader", "BM_MinimalTreeThroughReader", sax, "");
         rate("toXml of the large tree", "BM_ToXmlLarge", std::nullopt, ">= 300 MB/s");
         rate("a fresh text of the same length", "BM_FreshTextOfToXmlLength", std::nullopt, "");
+        rate("minimal tree written as text", "BM_MinimalTreeWrite", std::nullopt, "");
         rate("writeXml of the large tree", "BM_WriteXmlLarge", std::nullopt, "");
         time("typed tree, small text", "BM_BuildSmall", find("BM_Sax2CopyingSmall"), 1e6, "us",
              "<= 2 x copying SAX2");

@@ -16,16 +16,12 @@ namespace {
 using namespace kaz::xml;
 
 // Accepts every event and reads every attribute, as a real handler would.
-class Handler final : public ISAXContentHandler, public ISAXErrorHandler {
+class Handler final : public SAXDefaultHandler, public ISAXErrorHandler {
 public:
     long putDocumentLocator(ISAXLocator* locator) override {
         locator_ = locator;
         return S_OK;
     }
-    long startDocument() override { return S_OK; }
-    long endDocument() override { return S_OK; }
-    long startPrefixMapping(const wchar_t*, int, const wchar_t*, int) override { return S_OK; }
-    long endPrefixMapping(const wchar_t*, int) override { return S_OK; }
     long startElement(const wchar_t*, int, const wchar_t*, int, const wchar_t*, int,
                       ISAXAttributes* attributes) override {
         int count = 0;
@@ -43,13 +39,6 @@ public:
         locator_->getColumnNumber(&column);
         return S_OK;
     }
-    long endElement(const wchar_t*, int, const wchar_t*, int, const wchar_t*, int) override {
-        return S_OK;
-    }
-    long characters(const wchar_t*, int) override { return S_OK; }
-    long ignorableWhitespace(const wchar_t*, int) override { return S_OK; }
-    long processingInstruction(const wchar_t*, int, const wchar_t*, int) override { return S_OK; }
-    long skippedEntity(const wchar_t*, int) override { return S_OK; }
     long error(ISAXLocator*, const wchar_t*, long) override { return S_OK; }
     long fatalError(ISAXLocator*, const wchar_t*, long) override { return S_OK; }
     long ignorableWarning(ISAXLocator*, const wchar_t*, long) override { return S_OK; }

@@ -14,7 +14,7 @@ namespace kaz::kazparser {
 // of the element that ended last, and who owns which node while a parse
 // runs. Whatever the handler still owns when it is destroyed is freed, so
 // that no parse, finished or failed, leaks a node.
-class NodeStackHandler : public kaz::xml::ISAXContentHandler {
+class NodeStackHandler : public kaz::xml::SAXDefaultHandler {
 public:
     explicit NodeStackHandler(INodeCfg* parent) : parent_(parent) {}
     ~NodeStackHandler() override;
@@ -22,17 +22,6 @@ public:
     NodeStackHandler& operator=(const NodeStackHandler&) = delete;
 
     long putDocumentLocator(kaz::xml::ISAXLocator* locator) override;
-    long startDocument() override { return kaz::xml::S_OK; }
-    long endDocument() override { return kaz::xml::S_OK; }
-    long startPrefixMapping(const wchar_t*, int, const wchar_t*, int) override {
-        return kaz::xml::S_OK;
-    }
-    long endPrefixMapping(const wchar_t*, int) override { return kaz::xml::S_OK; }
-    long ignorableWhitespace(const wchar_t*, int) override { return kaz::xml::S_OK; }
-    long processingInstruction(const wchar_t*, int, const wchar_t*, int) override {
-        return kaz::xml::S_OK;
-    }
-    long skippedEntity(const wchar_t*, int) override { return kaz::xml::S_OK; }
 
     // The node of the document element once it ended, handed to the caller;
     // null before.

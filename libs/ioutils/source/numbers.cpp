@@ -5,8 +5,10 @@
 #include <charconv>
 #include <climits>
 #include <clocale>
+#include <cmath>
 #include <cstdlib>
 #include <cwctype>
+#include <limits>
 #include <string>
 
 namespace ioutils {
@@ -55,6 +57,26 @@ std::size_t decimalLength(std::wstring_view text, std::size_t pos) {
     return end - pos;
 }
 
+// The value of the ASCII number `text` (no sign); from_chars gives the
+// correctly rounded value, and strtod in the C locale the infinity or zero
+// of a number out of range.
+double decimalValue(std::wstring_view text) {
+    char stack[64];
+    std::string heap;
+    char* ascii = stack;
+    if (text.size() >= sizeof stack) {
+        heap.resize(text.size() + 1);
+        ascii = heap.data();
+    }
+    std::copy(text.begin(), text.end(), ascii);
+    double value = 0.0;
+    if (std::from_chars(ascii, ascii + text.size(), value).ec != std::errc::result_out_of_range)
+        return value;
+    ascii[text.size()] = '\0';
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", locale_t{});
+    return strtod_l(ascii, nullptr, cLocale);
+}
+
 }  // namespace
 
 double parseDouble(std::wstring_view text) {
@@ -62,20 +84,13 @@ double parseDouble(std::wstring_view text) {
     bool negative = false;
     if (pos < text.size() && (text[pos] == L'+' || text[pos] == L'-'))
         negative = text[pos++] == L'-';
-    std::string ascii;
-    if (const std::size_t length = decimalLength(text, pos); length > 0) {
-        for (std::size_t i = pos; i < pos + length; ++i) ascii += static_cast<char>(text[i]);
-    } else if (startsWithWord(text, pos, L"inf")) {
-        ascii = "inf";
-    } else if (startsWithWord(text, pos, L"nan")) {
-        ascii = "nan";
-    } else {
-        return 0.0;
-    }
-    // The C locale's strtod gives the correctly rounded value, and infinity
-    // or zero where the number is out of range.
-    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", locale_t{});
-    const double value = strtod_l(ascii.c_str(), nullptr, cLocale);
+    double value = 0.0;
+    if (const std::size_t length = decimalLength(text, pos); length > 0)
+        value = decimalValue(text.substr(pos, length));
+    else if (startsWithWord(text, pos, L"inf"))
+        value = HUGE_VAL;
+    else if (startsWithWord(text, pos, L"nan"))
+        value = std::numeric_limits<double>::quiet_NaN();
     return negative ? -value : value;
 }
 

@@ -109,12 +109,15 @@ TEST(Numbers, ParseTakesTheLongestNumericPrefix) {
         {L"1,5", 1, 1},
         {L"-infinity", -HUGE_VAL, 0},
         {L" inf1", HUGE_VAL, 0},
+        {L"1e400", HUGE_VAL, 1},
+        {L"-1e-400", 0, -1},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(parseDouble(c.text), c.real) << c.text;
         EXPECT_EQ(parseInt(c.text), c.integer) << c.text;
     }
     EXPECT_TRUE(std::isnan(parseDouble(L"nan")));
+    EXPECT_EQ(parseDouble(L"0." + std::wstring(80, L'0') + L"125e82"), 12.5);  // longer than 64
 }
 
 TEST(Numbers, StrictFormsRefuseAnythingButOneNumber) {

@@ -89,6 +89,28 @@ public:
     virtual long skippedEntity(const wchar_t* name, int nameLength) = 0;
 };
 
+// A content handler that takes every event and does nothing with it.
+// Handlers derive from it and override only the events they use.
+class KAZXML_API SAXDefaultHandler : public ISAXContentHandler {
+public:
+    long putDocumentLocator(ISAXLocator*) override { return S_OK; }
+    long startDocument() override { return S_OK; }
+    long endDocument() override { return S_OK; }
+    long startPrefixMapping(const wchar_t*, int, const wchar_t*, int) override { return S_OK; }
+    long endPrefixMapping(const wchar_t*, int) override { return S_OK; }
+    long startElement(const wchar_t*, int, const wchar_t*, int, const wchar_t*, int,
+                      ISAXAttributes*) override {
+        return S_OK;
+    }
+    long endElement(const wchar_t*, int, const wchar_t*, int, const wchar_t*, int) override {
+        return S_OK;
+    }
+    long characters(const wchar_t*, int) override { return S_OK; }
+    long ignorableWhitespace(const wchar_t*, int) override { return S_OK; }
+    long processingInstruction(const wchar_t*, int, const wchar_t*, int) override { return S_OK; }
+    long skippedEntity(const wchar_t*, int) override { return S_OK; }
+};
+
 class KAZXML_API ISAXErrorHandler {
 public:
     virtual ~ISAXErrorHandler() = default;
