@@ -84,7 +84,7 @@ protected:
     // Takes `data` (null raises "Invalid argument" naming replaceData) and
     // hands back the previous data child detached.
     IDataCfg* replaceDataChild(IDataCfg* data, INodeCfg* owner) {
-        if (data == nullptr) errors::invalidArgument(KAZ_HERE(Derived::kClassName, L"replaceData"));
+        errors::required(data, Derived::kClassName, L"replaceData");
         return handBack(child_.replace(data, owner));
     }
 

@@ -26,15 +26,12 @@ bool ExtParamCfgImpl::writeXml(IXmlWriter& out) const {
 }
 
 bool ExtParamCfgImpl::setChild(INodeCfg* child) {
-    auto* data = nodeCast<IDataCfg>(child);
-    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
-    setDataChild(data, this);
+    setDataChild(errors::required(nodeCast<IDataCfg>(child), kClassName, L"setChild"), this);
     return true;
 }
 
 void ExtParamCfgImpl::setData(IDataCfg* data) {
-    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setData"));
-    setDataChild(data, this);
+    setDataChild(errors::required(data, kClassName, L"setData"), this);
 }
 
 }  // namespace kaz::kazparser

@@ -15,13 +15,6 @@ namespace kaz::kazparser {
 
 namespace fixedchildren {
 
-// Null raises "Invalid argument" naming `className`::`method`.
-template <class T>
-T* required(T* child, const wchar_t* className, const wchar_t* method) {
-    if (child == nullptr) errors::invalidArgument(KAZ_HERE(className, method));
-    return child;
-}
-
 // The present nodes among `slots` are the child positions, in slot order.
 template <std::size_t N>
 unsigned int presentCount(const std::array<INodeCfg*, N>& slots) {
@@ -112,7 +105,7 @@ protected:
 
     template <class T>
     T* required(T* child, const wchar_t* method) const {
-        return fixedchildren::required(child, className(), method);
+        return errors::required(child, className(), method);
     }
 
 private:

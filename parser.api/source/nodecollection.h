@@ -78,9 +78,7 @@ protected:
 
     // The item as the accepted interface, or "Invalid argument" naming `method`.
     Item* castItem(INodeCfg* item, const wchar_t* method) const {
-        Item* typed = nodeCast<Item>(item);
-        if (typed == nullptr) errors::invalidArgument(KAZ_HERE(Derived::kClassName, method));
-        return typed;
+        return errors::required(nodeCast<Item>(item), Derived::kClassName, method);
     }
 
     void checkIndex(unsigned int index, const wchar_t* method) const {

@@ -22,4 +22,11 @@ namespace kaz::kazparser::errors {
 [[noreturn]] void parsing(const std::wstring& message, const std::wstring& context,
                           kazexception::IKAZException* inner = nullptr);
 
+// `argument` itself; null raises "Invalid argument" naming `className`::`method`.
+template <class T>
+T* required(T* argument, const wchar_t* className, const wchar_t* method) {
+    if (argument == nullptr) invalidArgument(KAZ_HERE(className, method));
+    return argument;
+}
+
 }  // namespace kaz::kazparser::errors

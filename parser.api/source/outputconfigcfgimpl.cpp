@@ -57,7 +57,7 @@ void OutputConfigCfgImpl::checkIndex(unsigned int index, const wchar_t* method) 
 
 void OutputConfigCfgImpl::checkArguments(const IUsePresenterCfg* presenter, unsigned int index,
                                          const wchar_t* method) const {
-    if (presenter == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, method));
+    errors::required(presenter, kClassName, method);
     checkIndex(index, method);
 }
 
@@ -73,13 +73,13 @@ IUsePresenterCfg* OutputConfigCfgImpl::getUsePresenter(const std::wstring& name)
 }
 
 void OutputConfigCfgImpl::setUseDataModifiers(IUseDataModifiersCfg* modifiers) {
-    modifiers_.set(fixedchildren::required(modifiers, kClassName, L"setUseDataModifiers"), this);
+    modifiers_.set(errors::required(modifiers, kClassName, L"setUseDataModifiers"), this);
 }
 
 IUseDataModifiersCfg* OutputConfigCfgImpl::replaceUseDataModifiers(
     IUseDataModifiersCfg* modifiers) {
-    return modifiers_.replace(
-        fixedchildren::required(modifiers, kClassName, L"replaceUseDataModifiers"), nullptr);
+    return modifiers_.replace(errors::required(modifiers, kClassName, L"replaceUseDataModifiers"),
+                              nullptr);
 }
 
 // Setting the stage already at `index` keeps it.

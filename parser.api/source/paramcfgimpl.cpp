@@ -46,8 +46,7 @@ bool ParamCfgImpl::writeXml(IXmlWriter& out) const {
 }
 
 bool ParamCfgImpl::setChild(INodeCfg* child) {
-    if (child == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
-    setDataChild(child, this);
+    setDataChild(errors::required(child, kClassName, L"setChild"), this);
     return true;
 }
 

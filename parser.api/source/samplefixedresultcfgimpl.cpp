@@ -6,8 +6,7 @@
 namespace kaz::kazparser {
 
 bool SampleFixedResultCfgImpl::setChild(INodeCfg* child) {
-    auto* data = nodeCast<IUseDataCfg>(child);
-    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
+    auto* data = errors::required(nodeCast<IUseDataCfg>(child), kClassName, L"setChild");
     (void)slot<UseData>().replace(data, nullptr);  // the previous node now belongs to the caller
     return true;
 }

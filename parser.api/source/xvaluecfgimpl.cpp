@@ -29,9 +29,7 @@ bool XValueCfgImpl::writeXml(IXmlWriter& out) const {
 }
 
 bool XValueCfgImpl::setChild(INodeCfg* child) {
-    auto* data = nodeCast<IDataCfg>(child);
-    if (data == nullptr) errors::invalidArgument(KAZ_HERE(kClassName, L"setChild"));
-    setDataChild(data, nullptr);
+    setDataChild(errors::required(nodeCast<IDataCfg>(child), kClassName, L"setChild"), nullptr);
     return true;
 }
 
